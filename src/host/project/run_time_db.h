@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/xml/document.h"
+
+namespace Framework {
+
+/// The project's run-time database: one XML document of fragments, shared by the tools of a
+/// suite. What no tool changed keeps its bytes.
+class RunTimeDB {
+ public:
+  /// Opens the database of a file; a missing file is an empty database. Throws OstException with
+  /// one line naming the file (and line) when it is damaged.
+  explicit RunTimeDB(const std::filesystem::path& file);
+  ~RunTimeDB();
+  RunTimeDB(const RunTimeDB&) = delete;
+  RunTimeDB& operator=(const RunTimeDB&) = delete;
+
+  /// A document of its own that holds copies of these fragments, in this order, under one
+  /// document element `RunTimeDB`. A fragment that is not there is left out.
+  [[nodiscard]] platform::xml::Document GetDOM(const std::vector<std::string>& fragments) const;
+  /// Stores every fragment under the document's document element in place of the one of that
+  /// name, or as a new one at the end. Other fragments stay. Returns false, with nothing
+  /// stored, when the document element is not `RunTimeDB`.
+  bool SetDOM(const platform::xml::Document& document);
+
+  /// True when saving would change the file's bytes.
+  [[nodiscard]] bool Modified() const;
+  /// The whole database as the text that saving writes.
+  [[nodiscard]] std::string Text() const;
+  /// Writes the file as one step when anything changed. Throws OstException naming the file and
+  /// the reason; the file then stands as it was and the changes are kept.
+  void Save();
+  /// Drops unsaved changes and reads the file anew. Throws as the constructor, changing nothing.
+  void Reload();
+
+  [[nodiscard]] const std::filesystem::path& File() const noexcept;
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace Framework

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+class OstProject;
+
+namespace platform::xml {
+class Document;
+}
+
+namespace Framework {
+
+/// The installed data folder: `share/sysdef` beside the folder of the host's library, or the
+/// folder that the environment variable SYSDEF_DATA names.
+[[nodiscard]] std::filesystem::path DataFolder();
+
+/// The full path of one of the tools' support files: in the project's folder `support` when it is
+/// there, else in the installed data folder (whether or not it is there). A null project has
+/// installed files only.
+[[nodiscard]] std::string GetToolFilePath(const OstProject* project, const char* fileName);
+
+}  // namespace Framework
+
+/// The names of the fragments that a stylesheet reads: every NAME of a path step
+/// `RunTimeDB/NAME` in its patterns and expressions, each once, in document order.
+[[nodiscard]] std::vector<std::string> ExtractNeededDBFragmentNames(
+    const platform::xml::Document& stylesheet);

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// The bytes of a regular file; nothing when no file is there. Throws FileError for anything that
+/// is not a regular file, is longer than the limit, or cannot be read.
+[[nodiscard]] std::optional<std::string> ReadFile(const std::filesystem::path& path,
+                                                  std::size_t limit = 256u << 20);
+
+/// Replaces the file's content as one step: a reader, and a reader after a crash, sees the old or
+/// the new bytes whole. On return the bytes and the folder's entry are on the disk. A symbolic
+/// link stays one, the file's mode is kept. Throws FileError, the old file then stands unchanged.
+void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
+
+}  // namespace platform
