@@ -18,6 +18,7 @@ class GUIWrapperBase : public ToolPropertyPage, public PageServices {
 
   bool ConfigureInTransform(const std::vector<const char*>& /*names*/) override { return true; }
   bool ConfigureOutTransform(const std::vector<const char*>& /*names*/) override { return true; }
+  [[nodiscard]] bool DataShown() const override { return dataShown_; }
 
  protected:
   ToolPropertyPage* WrappedPage() override { return page_.get(); }
@@ -26,6 +27,7 @@ class GUIWrapperBase : public ToolPropertyPage, public PageServices {
   std::string firstText_;
   std::string secondText_;
   bool loaded_ = false;
+  bool dataShown_ = false;
 };
 
 }  // namespace Framework

@@ -18,7 +18,8 @@ class GUIWrapperNoOp : public GUIWrapperBase {
 
   void InitDialog() override {
     loaded_ = false;
-    if (ReadFromRunTimeDB()) {
+    dataShown_ = ReadFromRunTimeDB();
+    if (dataShown_) {
       HandDataToPage();
       page_->InitDialog();
     }

@@ -71,19 +71,21 @@ ToolPropertyPage& PageHost::Create(const std::string& name) { return *Made(name)
 
 ToolPropertyPage& PageHost::Open(const std::string& name) {
   OpenPage& open = Made(name);
-  if (!open.initialised) {
-    open.page->Window();
-    open.page->InitDialog();
-    open.initialised = true;
-  }
+  if (!open.initialised) Initialise(name, open);
   return *open.page;
 }
 
 void PageHost::Reopen(const std::string& name) {
-  OpenPage& open = Made(name);
+  Initialise(name, Made(name));
+}
+
+void PageHost::Initialise(const std::string& name, OpenPage& open) {
   open.page->Window();
   open.page->InitDialog();
-  open.initialised = true;
+  open.initialised = Services(*open.page).DataShown();
+  if (!open.initialised) {
+    throw OstException("The page " + name + " cannot be shown: its data could not be read");
+  }
 }
 
 void PageHost::ReopenAll() {

@@ -32,6 +32,7 @@ class PageHost {
   /// page table names it, or one of its stylesheets does not load (the message names the file).
   ToolPropertyPage& Create(const std::string& name);
   /// Create, then the window is made and the page initialised with data at the first call.
+  /// Throws OstException also when the data cannot be read.
   ToolPropertyPage& Open(const std::string& name);
   /// Initialises a page anew from the run-time database. Throws as Open.
   void Reopen(const std::string& name);
@@ -51,6 +52,7 @@ class PageHost {
 
   [[nodiscard]] const PageTableRow& TableRow(const std::string& name);
   void Configure(ToolPropertyPage& page, const PageTableRow& row) const;
+  void Initialise(const std::string& name, OpenPage& open);
   OpenPage& Made(const std::string& name);
 
   Tool& tool_;
