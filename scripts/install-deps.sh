@@ -67,7 +67,7 @@ fi
 
 apt() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get -q -o DPkg::Lock::Timeout=300 "$@" </dev/null
+    apt-get -qq -o DPkg::Lock::Timeout=300 "$@" </dev/null
 }
 
 say "installing ${missing[*]}"
