@@ -18,7 +18,7 @@ class CFileDialogEx {
   std::filesystem::path startFolder;
 
   /// Lets the person choose an existing file; nothing when cancelled, or when the host runs
-  /// without user interaction.
+  /// without user interaction and no chooser is set.
   [[nodiscard]] std::optional<std::filesystem::path> Choose() const;
 };
 

@@ -5,9 +5,6 @@
 #include <functional>
 #include <string>
 
-class QString;
-class QWidget;
-
 /// Message box styles, to be combined, and the answers.
 namespace msgbox {
 inline constexpr unsigned kOk = 0x0, kOkCancel = 0x1, kYesNo = 0x4;
@@ -30,7 +27,8 @@ int ShowMessageBox(const std::string& text, const std::string& caption = {},
                    unsigned style = msgbox::kOk);
 
 /// Takes the place of the box on the screen: gets the text, the caption as it would be shown, and
-/// the style; returns the answer. Scripts and tests set it; an empty function restores the box.
+/// the style; returns the answer. Scripts and tests set it; an empty function restores the box. It
+/// is not asked when the host runs without user interaction.
 using MessageBoxResponder =
     std::function<int(const std::string& text, const std::string& caption, unsigned style)>;
 void SetMessageBoxResponder(MessageBoxResponder responder);

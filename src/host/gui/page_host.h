@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "host/project/page_table.h"
+
 namespace Framework {
 
 class PageServices;
@@ -30,9 +32,11 @@ class PageHost {
   /// page table names it, or one of its stylesheets does not load (the message names the file).
   ToolPropertyPage& Create(const std::string& name);
   /// Create, then the window is made and the page initialised with data at the first call.
+  /// Throws OstException also when the data cannot be read.
   ToolPropertyPage& Open(const std::string& name);
-  /// Initialises an open page anew from the run-time database. Throws as Open.
+  /// Initialises a page anew from the run-time database. Throws as Open.
   void Reopen(const std::string& name);
+  void ReopenAll();
   /// Applies one page; true when it was stored.
   bool Apply(const std::string& name);
   /// Applies all open pages in registry order, up to the first that refuses, whose name is
@@ -44,10 +48,16 @@ class PageHost {
   static PageServices& Services(ToolPropertyPage& page);
 
  private:
-  struct Row;
-  Row& Find(const std::string& name);
+  struct OpenPage;
+
+  [[nodiscard]] const PageTableRow& TableRow(const std::string& name);
+  void Configure(ToolPropertyPage& page, const PageTableRow& row) const;
+  void Initialise(const std::string& name, OpenPage& open);
+  OpenPage& Made(const std::string& name);
+
   Tool& tool_;
-  std::map<std::string, std::unique_ptr<Row>> rows_;
+  std::vector<PageTableRow> table_;
+  std::map<std::string, std::unique_ptr<OpenPage>> pages_;
 };
 
 }  // namespace Framework

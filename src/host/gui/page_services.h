@@ -22,6 +22,8 @@ class PageServices {
   /// Reads the data object from the run-time database without showing it.
   virtual bool ReadFromRunTimeDB() = 0;
 
+  /// Whether the last initialisation read the data and gave them to the page.
+  [[nodiscard]] virtual bool DataShown() const = 0;
   /// Whether the stylesheet of either direction is loaded.
   [[nodiscard]] virtual bool InTransformLoaded() const = 0;
   [[nodiscard]] virtual bool OutTransformLoaded() const = 0;

@@ -2,17 +2,21 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/gui/class_registry.h"
 #include "host/gui/ost_tool.h"
 
 class OstDocTemplate;
 class OstProject;
+class QWidget;
 
 namespace Framework {
 
+class PageHost;
 class RunTimeDB;
 
 /// A tool of the suite: known by its name while it lives, attached to at most one project, whose
@@ -43,6 +47,19 @@ class Tool : public OstTool, public DynamicObject {
   [[nodiscard]] virtual RunTimeDB* GetRunTimeDB() { return database_; }
   void SetRunTimeDB(RunTimeDB* database) noexcept { database_ = database; }
 
+  /// Drops what was not saved: the database is read anew and every open page shown from it.
+  /// Throws OstException when the file is damaged; nothing is dropped then.
+  virtual void Reload();
+  /// The files that hold the tool's data.
+  [[nodiscard]] virtual std::vector<std::string> GetFilenames() const;
+
+  /// The tool's frame with its view, made from the document template at the first call; null when
+  /// the template cannot make them. Owned by the tool until it is put into another widget.
+  virtual QWidget* OpenGui();
+  virtual void CloseGui();
+  /// The tool's open pages.
+  [[nodiscard]] PageHost& Pages();
+
   void SetNeedToSave(int need);
   void SetNeedToBuild(int need);
   [[nodiscard]] bool NeedToSave() const noexcept { return needToSave_; }
@@ -50,6 +67,9 @@ class Tool : public OstTool, public DynamicObject {
   /// The build flag: whether an edit of this tool's data asks for a build.
   [[nodiscard]] bool BuildsOnChange() const noexcept { return buildsOnChange_; }
   void SetBuildsOnChange(bool builds) noexcept { buildsOnChange_ = builds; }
+
+  /// Called after either flag changed; one listener, empty for none.
+  void SetFlagListener(std::function<void()> listener) { flagListener_ = std::move(listener); }
 
   [[nodiscard]] OstDocTemplate* GetDocTemplate() const noexcept { return docTemplate_.get(); }
 
@@ -66,6 +86,8 @@ class Tool : public OstTool, public DynamicObject {
   bool needToBuild_ = false;
   bool buildsOnChange_;
   std::string lastError_;
+  std::function<void()> flagListener_;
+  std::unique_ptr<PageHost> pages_;
 };
 
 }  // namespace Framework

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/xml/document.h"
+#include "platform/xml/numeric_fields.h"
 
 namespace Framework {
 
@@ -17,8 +18,9 @@ namespace Framework {
 class RunTimeDB {
  public:
   /// Opens the database of a file; a missing file is an empty database. Throws OstException with
-  /// one line naming the file (and line) when it is damaged.
-  explicit RunTimeDB(const std::filesystem::path& file);
+  /// one line naming the file (and line) when it is damaged. In the numeric fields a number keeps
+  /// its spelling while its value stays, and a new value is written in its shortest form.
+  explicit RunTimeDB(const std::filesystem::path& file, platform::xml::NumericFields numbers = {});
   ~RunTimeDB();
   RunTimeDB(const RunTimeDB&) = delete;
   RunTimeDB& operator=(const RunTimeDB&) = delete;
@@ -27,8 +29,9 @@ class RunTimeDB {
   /// document element `RunTimeDB`. A fragment that is not there is left out.
   [[nodiscard]] platform::xml::Document GetDOM(const std::vector<std::string>& fragments) const;
   /// Stores every fragment under the document's document element in place of the one of that
-  /// name, or as a new one at the end. Other fragments stay. Returns false, with nothing
-  /// stored, when the document element is not `RunTimeDB`.
+  /// name, or as a new one at the end. Other fragments stay. The database keeps the document: the
+  /// caller changes it no more. Returns false, with nothing stored, when the document element is
+  /// not `RunTimeDB`.
   bool SetDOM(const platform::xml::Document& document);
 
   /// True when saving would change the file's bytes.

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#include "host/project/run_time_db.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/project/ost_exception.h"
+#include "platform/file/file.h"
+#include "platform/file/file_error.h"
+#include "platform/xml/source_map.h"
+#include "platform/xml/source_merge.h"
+#include "platform/xml/xml_error.h"
+
+namespace Framework {
+
+namespace {
+
+using platform::xml::Document;
+using platform::xml::Element;
+using platform::xml::SourceElement;
+
+constexpr const char* kRoot = "RunTimeDB";
+constexpr std::string_view kEmptyDatabase =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<RunTimeDB/>\n";
+
+/// One child element of the document element.
+struct Fragment {
+  std::string name;
+  Element before;      ///< as the file has it; null when the file has none
+  Document keeper;     ///< holds the tree of `now`
+  Element now;         ///< what was stored since; null when nothing was
+
+  [[nodiscard]] Element Current() const { return now ? now : before; }
+};
+
+}  // namespace
+
+struct RunTimeDB::State {
+  std::filesystem::path file;
+  platform::xml::NumericFields numbers;
+  std::string text;  ///< UTF-8, what `tree` was read from; the file's bytes unless it is missing
+  Document tree;
+  std::vector<Fragment> fragments;
+
+  Fragment* Find(std::string_view name) {
+    const auto found = std::find_if(fragments.begin(), fragments.end(),
+                                    [&](const Fragment& each) { return each.name == name; });
+    return found == fragments.end() ? nullptr : &*found;
+  }
+
+  void Take(std::string bytes);
+  void Load();
+  void Store(const Document& document, Element fragment);
+  [[nodiscard]] std::string Merged() const;
+  [[nodiscard]] std::string NewFragments() const;
+};
+
+namespace {
+
+/// Bytes in another encoding are carried on as UTF-8.
+std::string AsUtf8(std::string bytes, const Document& tree) {
+  if (platform::xml::IsUtf8Source(bytes)) return bytes;
+  return tree.ToText(platform::xml::TextForm::kIndented);
+}
+
+}  // namespace
+
+void RunTimeDB::State::Take(std::string bytes) {
+  Document read = Document::Parse(bytes);
+  if (read.Root().BaseName() != kRoot) {
+    throw platform::xml::XmlError("the document element is not RunTimeDB", read.Root().Line());
+  }
+  text = AsUtf8(std::move(bytes), read);
+  tree = std::move(read);
+  fragments.clear();
+  for (Element each = tree.Root().FirstChild(); each; each = each.NextSibling()) {
+    fragments.push_back({std::string(each.BaseName()), each, Document(), Element()});
+  }
+}
+
+void RunTimeDB::State::Load() {
+  try {
+    auto bytes = platform::ReadFile(file);
+    Take(bytes ? std::move(*bytes) : std::string(kEmptyDatabase));
+  } catch (const platform::FileError& error) {
+    throw OstException(error.what());
+  } catch (const platform::xml::XmlError& error) {
+    throw OstException(file.string() + ": " + error.what());
+  }
+}
+
+void RunTimeDB::State::Store(const Document& document, Element fragment) {
+  Fragment* row = Find(fragment.BaseName());
+  if (!row) {
+    fragments.push_back({std::string(fragment.BaseName()), Element(), document, fragment});
+    return;
+  }
+  if (row->before && platform::xml::SameContent(fragment, row->before, numbers)) {
+    row->now = Element();
+    row->keeper = Document();
+    return;
+  }
+  row->now = fragment;
+  row->keeper = document;
+}
+
+std::string RunTimeDB::State::NewFragments() const {
+  std::string added;
+  for (const Fragment& fragment : fragments) {
+    if (fragment.before) continue;
+    added += "\n  " + platform::xml::NewSource(fragment.now, 1, numbers);
+  }
+  return added;
+}
+
+std::string RunTimeDB::State::Merged() const {
+  const SourceElement root = platform::xml::MapSource(text, 0, 1);
+  std::string merged;
+  std::size_t done = 0;
+  std::size_t index = 0;
+  for (const Fragment& fragment : fragments) {
+    if (!fragment.before) continue;
+    const SourceElement& place = root.children[index++];
+    if (!fragment.now) continue;
+    merged.append(text, done, place.begin - done);
+    const SourceElement deep = platform::xml::MapSource(text, place.begin, 256);
+    merged += platform::xml::MergeSource(fragment.now, fragment.before, deep, text, numbers);
+    done = place.end;
+  }
+  const std::string added = NewFragments();
+  if (added.empty()) return merged.append(text, done);
+  if (root.EmptyTag()) {
+    const std::size_t slash = text.rfind('/', root.end);
+    return text.substr(0, slash) + ">" + added + "\n</RunTimeDB>" + text.substr(root.end);
+  }
+  const std::size_t last = root.children.empty() ? root.contentBegin : root.children.back().end;
+  merged.append(text, done, last - done);
+  merged += added;
+  if (text[last] != '\n') merged += '\n';
+  return merged.append(text, last);
+}
+
+RunTimeDB::RunTimeDB(const std::filesystem::path& file, platform::xml::NumericFields numbers)
+    : state_(std::make_unique<State>()) {
+  state_->file = file;
+  state_->numbers = std::move(numbers);
+  state_->Load();
+}
+
+RunTimeDB::~RunTimeDB() = default;
+
+Document RunTimeDB::GetDOM(const std::vector<std::string>& fragments) const {
+  Document document;
+  Element root = document.CreateRoot(kRoot);
+  for (const std::string& name : fragments) {
+    if (const Fragment* fragment = state_->Find(name)) root.AppendCopy(fragment->Current());
+  }
+  return document;
+}
+
+bool RunTimeDB::SetDOM(const Document& document) {
+  const Element root = document.Root();
+  if (!root || root.BaseName() != kRoot) return false;
+  for (Element each = root.FirstChild(); each; each = each.NextSibling()) {
+    state_->Store(document, each);
+  }
+  return true;
+}
+
+bool RunTimeDB::Modified() const {
+  return std::any_of(state_->fragments.begin(), state_->fragments.end(),
+                     [](const Fragment& fragment) { return static_cast<bool>(fragment.now); });
+}
+
+std::string RunTimeDB::Text() const { return Modified() ? state_->Merged() : state_->text; }
+
+void RunTimeDB::Save() {
+  if (!Modified()) return;
+  try {
+    // The bytes are read back before they are written, so that what stands in the file opens.
+    State saved;
+    saved.file = state_->file;
+    saved.numbers = state_->numbers;
+    saved.Take(state_->Merged());
+    platform::WriteFileAtomically(saved.file, saved.text);
+    *state_ = std::move(saved);
+  } catch (const platform::FileError& error) {
+    throw OstException(error.what());
+  } catch (const platform::xml::XmlError& error) {
+    throw OstException(state_->file.string() + ": not saved: " + error.what());
+  }
+}
+
+void RunTimeDB::Reload() {
+  State fresh;
+  fresh.file = state_->file;
+  fresh.numbers = state_->numbers;
+  fresh.Load();
+  *state_ = std::move(fresh);
+}
+
+const std::filesystem::path& RunTimeDB::File() const noexcept { return state_->file; }
+
+}  // namespace Framework

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#include "platform/file/file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include "platform/file/file_error.h"
+
+namespace platform {
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void Fail(const char* act, const fs::path& path, const std::string& reason) {
+  throw FileError(std::string("Cannot ") + act + " " + path.string() + ": " + reason);
+}
+
+[[noreturn]] void FailWithErrno(const char* act, const fs::path& path) {
+  Fail(act, path, std::strerror(errno));
+}
+
+/// An open file, closed at the end.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) noexcept : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  [[nodiscard]] int Number() const noexcept { return number_; }
+  [[nodiscard]] bool IsOpen() const noexcept { return number_ >= 0; }
+  /// Closes it now; false where that reports an error of an earlier write.
+  bool Close() noexcept { return ::close(std::exchange(number_, -1)) == 0; }
+
+ private:
+  int number_;
+};
+
+/// Up to `size` bytes, fewer only at the file's end.
+std::size_t ReadSome(const Descriptor& file, char* to, std::size_t size, const fs::path& path) {
+  std::size_t done = 0;
+  while (done < size) {
+    const ssize_t step = ::read(file.Number(), to + done, size - done);
+    if (step < 0 && errno == EINTR) continue;
+    if (step < 0) FailWithErrno("read", path);
+    if (step == 0) break;
+    done += static_cast<std::size_t>(step);
+  }
+  return done;
+}
+
+std::string ReadToEnd(const Descriptor& file, std::size_t expected, std::size_t limit,
+                      const fs::path& path) {
+  std::string bytes;
+  // One byte more than expected: a file that grew while it was read shows itself.
+  for (std::size_t room = expected + 1;; room *= 2) {
+    const std::size_t before = bytes.size();
+    bytes.resize(before + room);
+    const std::size_t got = ReadSome(file, bytes.data() + before, room, path);
+    bytes.resize(before + got);
+    if (bytes.size() > limit)
+      Fail("read", path, "it is longer than " + std::to_string(limit) + " bytes");
+    if (got < room) return bytes;
+  }
+}
+
+/// Where a chain of symbolic links ends, whether or not a file stands there.
+fs::path FollowLinks(const fs::path& path) {
+  fs::path target = path;
+  for (int step = 0; step < 40; ++step) {
+    std::error_code error;
+    if (!fs::is_symlink(fs::symlink_status(target, error))) return target;
+    const fs::path next = fs::read_symlink(target, error);
+    if (error) Fail("write", path, error.message());
+    target = next.is_absolute() ? next : target.parent_path() / next;
+  }
+  Fail("write", path, std::strerror(ELOOP));
+}
+
+fs::path FolderOf(const fs::path& file) {
+  return file.has_parent_path() ? file.parent_path() : fs::path(".");
+}
+
+/// A new file beside the target; gone again unless it was renamed onto it.
+class Replacement {
+ public:
+  Replacement(const fs::path& shown, const fs::path& target)
+      : shown_(shown),
+        name_((FolderOf(target) / ("." + target.filename().string() + ".XXXXXX")).string()),
+        file_(::mkostemp(name_.data(), O_CLOEXEC)) {
+    if (!file_.IsOpen()) FailWithErrno("write", shown_);
+  }
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+  ~Replacement() {
+    if (!name_.empty()) ::unlink(name_.c_str());
+  }
+
+  void TakeMode(const fs::path& target) {
+    struct stat old = {};
+    const bool exists = ::stat(target.c_str(), &old) == 0;
+    if (exists && !S_ISREG(old.st_mode)) Fail("write", shown_, "it is not a regular file");
+    if (exists && ::access(target.c_str(), W_OK) != 0) FailWithErrno("write", shown_);
+    // The group may be one that we cannot give; the mode is what must not be lost.
+    if (exists && ::fchown(file_.Number(), old.st_uid, old.st_gid) != 0) errno = 0;
+    const mode_t mode = exists ? old.st_mode & 07777 : 0666 & ~CreationMask();
+    if (::fchmod(file_.Number(), mode) != 0) FailWithErrno("write", shown_);
+  }
+
+  void Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+      const ssize_t step = ::write(file_.Number(), bytes.data(), bytes.size());
+      if (step < 0 && errno == EINTR) continue;
+      if (step < 0) FailWithErrno("write", shown_);
+      bytes.remove_prefix(static_cast<std::size_t>(step));
+    }
+  }
+
+  void RenameOnto(const fs::path& target) {
+    if (::fsync(file_.Number()) != 0 || !file_.Close()) FailWithErrno("write", shown_);
+    if (::rename(name_.c_str(), target.c_str()) != 0) FailWithErrno("write", shown_);
+    name_.clear();
+  }
+
+ private:
+  static mode_t CreationMask() {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return mask;
+  }
+
+  const fs::path& shown_;
+  std::string name_;
+  Descriptor file_;
+};
+
+void SyncFolder(const fs::path& folder, const fs::path& shown) {
+  const Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  // Some network file systems cannot sync a folder: then there is nothing more to do.
+  if (!open.IsOpen() || (::fsync(open.Number()) != 0 && errno != EINVAL))
+    FailWithErrno("write", shown);
+}
+
+}  // namespace
+
+std::optional<std::string> ReadFile(const fs::path& path, std::size_t limit) {
+  // Not blocking: opening a pipe without a writer would wait for ever.
+  const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (!file.IsOpen() && errno == ENOENT) return std::nullopt;
+  struct stat status = {};
+  if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0) FailWithErrno("read", path);
+  if (!S_ISREG(status.st_mode)) Fail("read", path, "it is not a regular file");
+  const auto size = static_cast<std::size_t>(status.st_size);
+  if (size > limit) Fail("read", path, "it is longer than " + std::to_string(limit) + " bytes");
+  return ReadToEnd(file, size, limit, path);
+}
+
+void WriteFileAtomically(const fs::path& path, std::string_view bytes) {
+  const fs::path target = FollowLinks(path);
+  Replacement replacement(path, target);
+  replacement.TakeMode(target);
+  replacement.Write(bytes);
+  replacement.RenameOnto(target);
+  SyncFolder(FolderOf(target), path);
+}
+
+}  // namespace platform

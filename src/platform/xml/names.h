@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#pragma once
+
+#include <string_view>
+
+namespace platform::xml {
+
+/// Throws XmlError for a text that is no XML name, a prefix included.
+void CheckName(std::string_view name);
+/// Throws XmlError for a text that XML cannot carry.
+void CheckText(std::string_view text);
+
+}  // namespace platform::xml

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+// What the library gives the host: its classes, its pages in the order the host lists them, and
+// the functions the host attaches and detaches it by.
+
+#include "framework/gui_instantiator.h"
+#include "host/data/pixmeld_control_data.h"
+#include "host/gui/class_registry.h"
+#include "host/gui/extension_module.h"
+#include "pages/pixmeld/pixmeld_page.h"
+#include "tool/identity.h"
+#include "tool/vesk_sys_def_tool_frame.h"
+#include "tool/vesk_sys_def_tool_view.h"
+#include "tool/vesk_system_definition_tool.h"
+#include "tool/vesk_system_definition_tool_doc.h"
+
+namespace {
+
+namespace ids = VeskSystemDefinition;
+using Framework::ClassRegistration;
+using Framework::XMLPageInstantiator;
+
+const ClassRegistration<VeskSystemDefinitionTool> kTool(ids::kToolClassName);
+const ClassRegistration<VeskSystemDefinitionToolDoc> kDocument(ids::kDocumentClassName);
+const ClassRegistration<VeskSysDefToolFrame> kFrame(ids::kFrameClassName);
+const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
+
+const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
+
+const Framework::ExtensionModule& Module() {
+  static const Framework::ExtensionModule module{"VeskSystemDefinition",
+                                                 {{1, ids::kToolClassName}}};
+  return module;
+}
+
+}  // namespace
+
+extern "C" {
+
+int OstExtensionInterface() { return Framework::kExtensionInterface; }
+
+bool OstExtensionAttach() { return Framework::RegisterExtensionModule(Module()); }
+
+void OstExtensionDetach() { Framework::UnregisterExtensionModule(Module()); }
+}

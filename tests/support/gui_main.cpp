@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+int main(int argc, char** argv) {
+  // Off-screen by default, also when the program is started by hand on a desktop.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QTemporaryDir runtimeFolder;
+  if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+    qputenv("XDG_RUNTIME_DIR", runtimeFolder.path().toUtf8());
+  // The style decides sizes and focus; a test must not depend on the desktop's.
+  QApplication::setStyle("fusion");
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("sysdef");
+  QApplication::setOrganizationName("sysdef-tests");
+  QStandardPaths::setTestModeEnabled(true);
+  testing::InitGoogleMock(&argc, argv);
+  return RUN_ALL_TESTS();
+}
