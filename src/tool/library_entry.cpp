@@ -29,7 +29,7 @@ const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage
 
 const Framework::ExtensionModule& Module() {
   static const Framework::ExtensionModule module{"VeskSystemDefinition",
-                                                 {{1, ids::kToolClassName}}};
+                                                 {{Framework::kToolClassString, ids::kToolClassName}}};
   return module;
 }
 

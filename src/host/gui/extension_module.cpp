@@ -23,6 +23,8 @@ bool RegisterExtensionModule(const ExtensionModule& module) {
 
 void UnregisterExtensionModule(const ExtensionModule& module) { std::erase(Modules(), &module); }
 
+const std::vector<const ExtensionModule*>& ExtensionModules() { return Modules(); }
+
 const ExtensionModule* FindExtensionModule(const std::string& name) {
   const auto& modules = Modules();
   const auto found = std::find_if(modules.begin(), modules.end(),

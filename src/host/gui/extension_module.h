@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,9 @@ namespace Framework {
 /// The version of the interface between the host and its extension libraries. A library built for
 /// another one is refused.
 inline constexpr int kExtensionInterface = 1;
+
+/// The string resource that names the class of the library's tool.
+inline constexpr unsigned kToolClassString = 1;
 
 /// The names of the functions an extension library exports with C linkage.
 inline constexpr const char* kExtensionInterfaceFunction = "OstExtensionInterface";  // int ()
@@ -20,12 +24,14 @@ inline constexpr const char* kExtensionDetachFunction = "OstExtensionDetach";   
 struct ExtensionModule {
   std::string name;
   /// The library's string resources, by number.
-  std::vector<std::pair<unsigned, std::string>> strings;
+  std::map<unsigned, std::string> strings;
 };
 
 /// False when a module of that name is registered already. The module is not owned.
 bool RegisterExtensionModule(const ExtensionModule& module);
 void UnregisterExtensionModule(const ExtensionModule& module);
+/// The registered modules, in the order they came.
+[[nodiscard]] const std::vector<const ExtensionModule*>& ExtensionModules();
 /// The registered module of that name, or null.
 [[nodiscard]] const ExtensionModule* FindExtensionModule(const std::string& name);
 

@@ -38,6 +38,8 @@ QMessageBox::StandardButtons ButtonsOf(unsigned style) {
   switch (style & kButtonBits) {
     case msgbox::kOkCancel:
       return QMessageBox::Ok | QMessageBox::Cancel;
+    case msgbox::kYesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     case msgbox::kYesNo:
       return QMessageBox::Yes | QMessageBox::No;
     default:

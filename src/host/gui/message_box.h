@@ -7,7 +7,7 @@
 
 /// Message box styles, to be combined, and the answers.
 namespace msgbox {
-inline constexpr unsigned kOk = 0x0, kOkCancel = 0x1, kYesNo = 0x4;
+inline constexpr unsigned kOk = 0x0, kOkCancel = 0x1, kYesNoCancel = 0x3, kYesNo = 0x4;
 inline constexpr unsigned kIconError = 0x10, kIconQuestion = 0x20, kIconWarning = 0x30,
                           kIconInformation = 0x40;
 inline constexpr unsigned kDefaultButton2 = 0x100;

@@ -48,3 +48,5 @@ void OstDocTemplate::CloseFrame() {
   delete frame_;
   document_.reset();
 }
+
+Framework::ToolFrame* OstDocTemplate::Frame() const noexcept { return frame_; }

@@ -32,7 +32,7 @@ class OstDocTemplate {
   [[nodiscard]] OstTool* Tool() const noexcept { return tool_; }
   [[nodiscard]] unsigned ResourceId() const noexcept { return resourceId_; }
   [[nodiscard]] Framework::ToolDocument* Document() const noexcept { return document_.get(); }
-  [[nodiscard]] Framework::ToolFrame* Frame() const noexcept { return frame_; }
+  [[nodiscard]] Framework::ToolFrame* Frame() const noexcept;
 
  private:
   OstTool* tool_;

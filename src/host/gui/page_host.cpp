@@ -24,6 +24,16 @@ PageHost::~PageHost() = default;
 
 std::vector<std::string> PageHost::Names() { return GUIPageRegistry().Names(); }
 
+QString PageHost::Title(const std::string& name) const {
+  if (const auto found = pages_.find(name); found != pages_.end()) {
+    return found->second->page->Title().trimmed();
+  }
+  const GUIInstantiatorBase* instantiator = GUIPageRegistry().Find(name);
+  if (!instantiator) return QString::fromStdString(name);
+  const std::unique_ptr<ToolPropertyPage> page(instantiator->CreateInstance({}));
+  return page->Title().trimmed();
+}
+
 PageServices& PageHost::Services(ToolPropertyPage& page) {
   auto* services = dynamic_cast<PageServices*>(&page);
   if (!services) throw OstException("The page " + page.Title().toStdString() + " moves no data");

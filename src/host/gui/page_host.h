@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <QString>
 #include <map>
 #include <memory>
 #include <string>
@@ -26,6 +27,8 @@ class PageHost {
 
   /// Registration names, in registry order.
   [[nodiscard]] static std::vector<std::string> Names();
+  /// The title of a page, which need not be open; its name when no tool can make it.
+  [[nodiscard]] QString Title(const std::string& name) const;
 
   /// The wrapper of a page with its stylesheets loaded, made at the first call; its window is not
   /// made and nothing is read yet. Throws OstException when there is no such page, no row of the

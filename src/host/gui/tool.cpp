@@ -7,6 +7,7 @@
 
 #include "host/gui/ost_doc_template.h"
 #include "host/gui/page_host.h"
+#include "host/gui/tool_frame.h"
 #include "host/project/ost_exception.h"
 #include "host/project/ost_project.h"
 #include "host/project/run_time_db.h"

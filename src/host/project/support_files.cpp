@@ -13,19 +13,23 @@
 
 namespace Framework {
 
+std::filesystem::path HostLibraryFolder() {
+  Dl_info self{};
+  if (dladdr(reinterpret_cast<const void*>(&HostLibraryFolder), &self) == 0) return "lib";
+  std::error_code ignored;
+  return std::filesystem::canonical(self.dli_fname, ignored).parent_path();
+}
+
 std::filesystem::path DataFolder() {
   if (const char* folder = std::getenv("SYSDEF_DATA"); folder && *folder) return folder;
   // The library stands in PREFIX/lib or PREFIX/lib/ARCHITECTURE.
-  Dl_info self{};
-  if (dladdr(reinterpret_cast<const void*>(&DataFolder), &self) == 0) return "share/sysdef";
+  const auto library = HostLibraryFolder();
   std::error_code ignored;
-  const auto library = std::filesystem::canonical(self.dli_fname, ignored);
-  for (auto folder = library.parent_path(); folder.has_relative_path();
-       folder = folder.parent_path()) {
+  for (auto folder = library; folder.has_relative_path(); folder = folder.parent_path()) {
     const auto data = folder / "share" / "sysdef";
     if (std::filesystem::is_directory(data, ignored)) return data;
   }
-  return library.parent_path().parent_path() / "share" / "sysdef";
+  return library.parent_path() / "share" / "sysdef";
 }
 
 std::string GetToolFilePath(const OstProject* project, const char* fileName) {

@@ -14,6 +14,9 @@ class Document;
 
 namespace Framework {
 
+/// The folder that the host's own library was loaded from.
+[[nodiscard]] std::filesystem::path HostLibraryFolder();
+
 /// The installed data folder: `share/sysdef` beside the folder of the host's library, or the
 /// folder that the environment variable SYSDEF_DATA names.
 [[nodiscard]] std::filesystem::path DataFolder();

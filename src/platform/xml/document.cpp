@@ -74,6 +74,14 @@ Element Document::CreateRoot(const char* name) {
   return Element(node);
 }
 
+Element Document::SetRootCopy(Element source) {
+  if (Root()) throw XmlError("the document has a document element already");
+  xmlNode* node = xmlDocCopyNode(source.Node(), tree_.get(), 1);
+  if (node == nullptr) throw std::bad_alloc();
+  xmlDocSetRootElement(tree_.get(), node);
+  return Element(node);
+}
+
 Document Document::Clone() const {
   xmlDoc* tree = xmlCopyDoc(tree_.get(), 1);
   if (tree == nullptr) throw std::bad_alloc();

@@ -37,6 +37,8 @@ class Document {
   [[nodiscard]] Element Root() const noexcept;
   /// Makes a document element; the document must have none.
   Element CreateRoot(const char* name);
+  /// Makes a deep copy of an element, of any document, the document element; there must be none.
+  Element SetRootCopy(Element source);
   /// A deep copy with a tree of its own.
   [[nodiscard]] Document Clone() const;
   /// The document as UTF-8 text. Indented: an XML declaration, two blanks a level, a line end at
