@@ -10,12 +10,12 @@
 
 namespace {
 
+using test::Command;
+using test::CommandResult;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 using testing::StartsWith;
-using tests::Command;
-using tests::CommandResult;
 using Words = std::vector<std::string>;
 
 const std::string kProject = Command::kProject;
@@ -392,21 +392,20 @@ TEST_F(CommandLine, CheckGoesOnAfterAProjectThatFails) {
 }
 
 TEST_F(CommandLine, FullDiskLeavesTheOldDatabase) {
-  const std::string before = command_.Read(kDatabase);
-  const auto names = command_.Files();
+  const auto before = command_.Everything();
   command_.LimitFileSize(64);
   const CommandResult imported =
       command_.Run({"import", kProject, "PixmeldPage"}, Pixmeld("Inputs", "12.5"));
   EXPECT_EQ(imported.status, 3) << imported;
   EXPECT_EQ(imported.out, "");
   EXPECT_THAT(imported.err, IsOneLineWith(Words{kDatabase}));
-  EXPECT_EQ(command_.Files(), names);
+  EXPECT_EQ(command_.Everything(), before);
 
   const CommandResult scripted = RunScript(R"js(
     const p = sysdef.open("PixmeldPage"); p.control("Start of 1st Subframe").text = "12.5";
     print(p.apply(), sysdef.save(), sysdef.needToSave, p.control("Start of 1st Subframe").text);)js");
   EXPECT_EQ(scripted.out, "true false true 12.50\n") << scripted;
-  EXPECT_EQ(command_.Read(kDatabase), before);
+  EXPECT_EQ(command_.Read(kDatabase), before.at(kDatabase));
 }
 
 TEST_F(CommandLine, FolderThatTakesNoFileIsSaidOnSave) {

@@ -12,7 +12,7 @@
 
 namespace {
 
-using tests::Command;
+using test::Command;
 
 /// The database with the number that it holds taken out, so that the rest can be compared.
 std::string WithoutStart(std::string text) {

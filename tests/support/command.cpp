@@ -4,14 +4,11 @@
 
 #include <sys/resource.h>
 
-#include <QDir>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
-namespace tests {
+namespace test {
 namespace {
 
 namespace fs = std::filesystem;
@@ -19,7 +16,7 @@ namespace fs = std::filesystem;
 constexpr const char* kHome = ".home";
 constexpr int kPatience = 60'000;  // milliseconds; a run takes some hundred
 
-QProcessEnvironment PlainEnvironment(const QString& home) {
+QProcessEnvironment PlainEnvironment(const fs::path& home) {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "LANGUAGE", "LANG",
                            "SYSDEF_DATA", "QT_LOGGING_RULES"})
@@ -27,7 +24,7 @@ QProcessEnvironment PlainEnvironment(const QString& home) {
   environment.insert("QT_QPA_PLATFORM", "offscreen");
   environment.insert("LC_ALL", "C.UTF-8");
   for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
-    environment.insert(name, home);
+    environment.insert(name, QString::fromStdString(home.string()));
   return environment;
 }
 
@@ -47,17 +44,16 @@ std::ostream& operator<<(std::ostream& stream, const CommandResult& result) {
 }
 
 Command::Command() {
-  if (!folder_.isValid()) throw std::runtime_error("no temporary folder");
-  fs::copy(fs::path(SYSDEF_SOURCE_DIR) / "samples/three-color-lamp", folder_.path().toStdString(),
+  fs::copy(fs::path(SYSDEF_SOURCE_DIR) / "samples/three-color-lamp", folder_.Path(),
            fs::copy_options::recursive);
-  fs::create_directory(Path(kHome));
+  fs::create_directory(folder_.Path() / kHome);
 }
 
 void Command::Start(QProcess& program, const std::vector<std::string>& arguments) {
   QStringList list;
   for (const std::string& argument : arguments) list << QString::fromStdString(argument);
-  program.setWorkingDirectory(folder_.path());
-  program.setProcessEnvironment(PlainEnvironment(folder_.filePath(kHome)));
+  program.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
+  program.setProcessEnvironment(PlainEnvironment(folder_.Path() / kHome));
   if (fileSize_) program.setChildProcessModifier([bytes = *fileSize_] { LimitOwnFileSize(bytes); });
   program.start(SYSDEF_BINARY_DIR "/bin/sysdef", list);
 }
@@ -75,22 +71,9 @@ CommandResult Command::Run(const std::vector<std::string>& arguments, const std:
           program.readAllStandardError().toStdString()};
 }
 
-void Command::Write(const std::string& file, const std::string& text) {
-  fs::create_directories(fs::path(Path(file)).parent_path());
-  std::ofstream stream(Path(file), std::ios::binary);
-  stream << text;
-  if (!stream.flush()) throw std::runtime_error("cannot write " + file);
-}
+bool Command::Exists(const std::string& file) const { return fs::exists(folder_.Path() / file); }
 
-std::string Command::Read(const std::string& file) const {
-  std::ifstream stream(Path(file), std::ios::binary);
-  if (!stream) throw std::runtime_error("cannot read " + file);
-  return (std::ostringstream() << stream.rdbuf()).str();
-}
-
-bool Command::Exists(const std::string& file) const { return fs::exists(Path(file)); }
-
-void Command::Remove(const std::string& file) { fs::remove_all(Path(file)); }
+void Command::Remove(const std::string& file) { fs::remove_all(folder_.Path() / file); }
 
 void Command::Replace(const std::string& file, const std::string& before,
                       const std::string& after) {
@@ -101,16 +84,9 @@ void Command::Replace(const std::string& file, const std::string& before,
   Write(file, text.replace(place, before.size(), after));
 }
 
-std::vector<std::string> Command::Files() const {
-  std::vector<std::string> names;
-  for (const auto& entry : QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name))
-    names.push_back(entry.toStdString());
-  return names;
-}
-
 std::map<std::string, std::string> Command::Everything() const {
   std::map<std::string, std::string> files;
-  const fs::path root(Path("."));
+  const fs::path& root = folder_.Path();
   for (auto entry = fs::recursive_directory_iterator(root);
        entry != fs::recursive_directory_iterator(); ++entry) {
     if (entry->path().filename() == kHome) entry.disable_recursion_pending();
@@ -121,8 +97,4 @@ std::map<std::string, std::string> Command::Everything() const {
   return files;
 }
 
-std::string Command::Path(const std::string& file) const {
-  return folder_.filePath(QString::fromStdString(file)).toStdString();
-}
-
-}  // namespace tests
+}  // namespace test

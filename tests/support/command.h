@@ -3,14 +3,15 @@
 #pragma once
 
 #include <QProcess>
-#include <QTemporaryDir>
 #include <map>
 #include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
-namespace tests {
+#include "support/temp_folder.h"
+
+namespace test {
 
 /// What a run of the program left.
 struct CommandResult {
@@ -36,24 +37,21 @@ class Command {
   void LimitFileSize(unsigned bytes) { fileSize_ = bytes; }
 
   /// Files of the folder, by path relative to it. Writing makes the folders that are missing.
-  void Write(const std::string& file, const std::string& text);
-  [[nodiscard]] std::string Read(const std::string& file) const;
+  void Write(const std::string& file, const std::string& text) { folder_.Write(file, text); }
+  [[nodiscard]] std::string Read(const std::string& file) const { return folder_.Read(file); }
   [[nodiscard]] bool Exists(const std::string& file) const;
   void Remove(const std::string& file);
   /// Replaces the only place of a file where `before` stands.
   void Replace(const std::string& file, const std::string& before, const std::string& after);
-  /// The names of the files in the folder itself, sorted, hidden ones too.
-  [[nodiscard]] std::vector<std::string> Files() const;
   /// All files of the project but those the program keeps for the person, by relative path.
   [[nodiscard]] std::map<std::string, std::string> Everything() const;
-  [[nodiscard]] std::string Path(const std::string& file) const;
 
   static constexpr const char* kProject = "three-color-lamp.ostproj";
   static constexpr const char* kDatabase = "runtimedb.xml";
 
  private:
-  QTemporaryDir folder_;
+  TempFolder folder_;
   std::optional<unsigned> fileSize_;
 };
 
-}  // namespace tests
+}  // namespace test
