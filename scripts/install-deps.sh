@@ -7,8 +7,8 @@
 set -euo pipefail
 
 base=(
-  # compiler and build
-  g++ cmake ninja-build pkg-config ccache
+  # compiler, build, command line
+  g++ cmake ninja-build pkg-config ccache libcli11-dev
   # windows, scripts, plots
   qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-svg-dev libqcustomplot-dev
   # what a window needs at run time: display servers, fonts, picture format of the icons
@@ -67,7 +67,7 @@ fi
 
 apt() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get -q -o DPkg::Lock::Timeout=300 "$@" </dev/null
+    apt-get -qq -o DPkg::Lock::Timeout=300 "$@" </dev/null
 }
 
 say "installing ${missing[*]}"
