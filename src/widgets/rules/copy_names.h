@@ -2,11 +2,8 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
-#include <map>
-#include <optional>
 #include <set>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 
 namespace GUI {
