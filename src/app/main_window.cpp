@@ -262,7 +262,7 @@ void MainWindow::DatabaseChanged() {
     } else {
       session_->Database().KeepMine();
     }
-  } catch (const OstException& error) {
+  } catch (const std::exception& error) {
     TellFailure(error.what());
   }
   asking_ = false;
