@@ -3,6 +3,7 @@
 #include "host/project/run_time_db.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "host/project/ost_exception.h"
@@ -42,6 +43,10 @@ struct RunTimeDB::State {
   std::string text;  ///< UTF-8, what `tree` was read from; the file's bytes unless it is missing
   Document tree;
   std::vector<Fragment> fragments;
+  std::optional<std::string> raw;  ///< the file's bytes where `text` is not the same
+  bool existed = false;            ///< whether there was a file to read
+  bool backedUp = false;
+  bool mayReplace = false;         ///< whatever the file holds now
 
   Fragment* Find(std::string_view name) {
     const auto found = std::find_if(fragments.begin(), fragments.end(),
@@ -51,27 +56,27 @@ struct RunTimeDB::State {
 
   void Take(std::string bytes);
   void Load();
+  void Write();
+  [[nodiscard]] std::optional<std::string> OnDisk() const { return platform::ReadFile(file); }
+  [[nodiscard]] bool Known(const std::optional<std::string>& bytes) const;
   void Store(const Document& document, Element fragment);
   [[nodiscard]] std::string Merged() const;
   [[nodiscard]] std::string NewFragments() const;
 };
-
-namespace {
-
-/// Bytes in another encoding are carried on as UTF-8.
-std::string AsUtf8(std::string bytes, const Document& tree) {
-  if (platform::xml::IsUtf8Source(bytes)) return bytes;
-  return tree.ToText(platform::xml::TextForm::kIndented);
-}
-
-}  // namespace
 
 void RunTimeDB::State::Take(std::string bytes) {
   Document read = Document::Parse(bytes);
   if (read.Root().BaseName() != kRoot) {
     throw platform::xml::XmlError("the document element is not RunTimeDB", read.Root().Line());
   }
-  text = AsUtf8(std::move(bytes), read);
+  raw.reset();
+  if (platform::xml::IsUtf8Source(bytes)) {
+    text = std::move(bytes);
+  } else {
+    // Bytes in another encoding are carried on as UTF-8.
+    text = read.ToText(platform::xml::TextForm::kIndented);
+    raw = std::move(bytes);
+  }
   tree = std::move(read);
   fragments.clear();
   for (Element each = tree.Root().FirstChild(); each; each = each.NextSibling()) {
@@ -81,13 +86,35 @@ void RunTimeDB::State::Take(std::string bytes) {
 
 void RunTimeDB::State::Load() {
   try {
-    auto bytes = platform::ReadFile(file);
+    auto bytes = OnDisk();
+    existed = bytes.has_value();
     Take(bytes ? std::move(*bytes) : std::string(kEmptyDatabase));
   } catch (const platform::FileError& error) {
     throw OstException(error.what());
   } catch (const platform::xml::XmlError& error) {
     throw OstException(file.string() + ": " + error.what());
   }
+}
+
+bool RunTimeDB::State::Known(const std::optional<std::string>& bytes) const {
+  if (!bytes) return !existed;
+  return existed && *bytes == (raw ? *raw : text);
+}
+
+void RunTimeDB::State::Write() {
+  const auto before = OnDisk();
+  if (!mayReplace && !Known(before)) {
+    throw OstException(file.string() + ": not saved: another program changed the file");
+  }
+  // The bytes are read back before they are written, so that what stands in the file opens.
+  State saved;
+  saved.file = file;
+  saved.numbers = numbers;
+  saved.Take(Merged());
+  if (before && !backedUp) platform::WriteFileAtomically(file.string() + ".bak", *before);
+  platform::WriteFileAtomically(file, saved.text);
+  saved.existed = saved.backedUp = true;
+  *this = std::move(saved);
 }
 
 void RunTimeDB::State::Store(const Document& document, Element fragment) {
@@ -178,13 +205,7 @@ std::string RunTimeDB::Text() const { return Modified() ? state_->Merged() : sta
 void RunTimeDB::Save() {
   if (!Modified()) return;
   try {
-    // The bytes are read back before they are written, so that what stands in the file opens.
-    State saved;
-    saved.file = state_->file;
-    saved.numbers = state_->numbers;
-    saved.Take(state_->Merged());
-    platform::WriteFileAtomically(saved.file, saved.text);
-    *state_ = std::move(saved);
+    state_->Write();
   } catch (const platform::FileError& error) {
     throw OstException(error.what());
   } catch (const platform::xml::XmlError& error) {
@@ -196,9 +217,20 @@ void RunTimeDB::Reload() {
   State fresh;
   fresh.file = state_->file;
   fresh.numbers = state_->numbers;
+  fresh.backedUp = state_->backedUp;
   fresh.Load();
   *state_ = std::move(fresh);
 }
+
+bool RunTimeDB::ChangedOnDisk() const {
+  try {
+    return !state_->Known(state_->OnDisk());
+  } catch (const platform::FileError&) {
+    return true;
+  }
+}
+
+void RunTimeDB::KeepMine() { state_->mayReplace = true; }
 
 const std::filesystem::path& RunTimeDB::File() const noexcept { return state_->file; }
 

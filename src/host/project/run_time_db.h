@@ -38,9 +38,15 @@ class RunTimeDB {
   [[nodiscard]] bool Modified() const;
   /// The whole database as the text that saving writes.
   [[nodiscard]] std::string Text() const;
-  /// Writes the file as one step when anything changed. Throws OstException naming the file and
-  /// the reason; the file then stands as it was and the changes are kept.
+  /// Writes the file as one step when anything changed. The first save leaves what the file held
+  /// before beside it, as FILE.bak. Throws OstException naming the file and the reason, also when
+  /// another program changed the file since it was read; the file then stands as it was and the
+  /// changes are kept.
   void Save();
+  /// Whether the file's bytes are no longer those that were read or saved last.
+  [[nodiscard]] bool ChangedOnDisk() const;
+  /// Lets the next save replace what another program wrote.
+  void KeepMine();
   /// Drops unsaved changes and reads the file anew. Throws as the constructor, changing nothing.
   void Reload();
 

@@ -2,7 +2,9 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <array>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "platform/xml/document.h"
@@ -35,6 +37,7 @@ class LexicalHandler {
 };
 
 /// Builds a document from SAX events. The tree is the target's: what was told so far is in it.
+/// Names are XML names without a prefix; the calls nest as the elements do.
 class SaxWriter final : public ContentHandler, public LexicalHandler {
  public:
   explicit SaxWriter(Document target);
@@ -48,9 +51,29 @@ class SaxWriter final : public ContentHandler, public LexicalHandler {
   void EndDtd() override;
   void Comment(std::string_view text) override;
 
+  /// What Characters takes: text XML can carry, of at most the 10,000,000 bytes that libxml2 reads.
+  [[nodiscard]] static bool CanCarry(std::string_view text) noexcept;
+  /// The names of the open elements from the document element down, with '/' between them.
+  [[nodiscard]] std::string OpenPath() const;
+
+  /// StartElement without attributes, Characters and EndElement in one. Text that XML cannot carry
+  /// throws before there is an element.
+  void TextElement(std::string_view name, std::string_view text);
+
  private:
+  /// A name the document's dictionary already holds, known again by where its caller keeps it.
+  struct KnownName {
+    const char* address = nullptr;
+    const unsigned char* interned = nullptr;
+  };
+
+  const unsigned char* Intern(std::string_view name);
+  _xmlNode* OpenElement(std::string_view name);
+  void AppendText(_xmlNode* element, std::string_view text);
+
   Document target_;
-  _xmlNode* open_ = nullptr;
+  _xmlNode* open_ = nullptr;  // the innermost open element, null outside the document element
+  std::array<KnownName, 64> known_{};
 };
 
 }  // namespace platform::xml

@@ -178,6 +178,40 @@ TEST(RunTimeDB, AFailedSaveKeepsFileAndChanges) {
   EXPECT_THAT(folder.Read("sub/db.xml"), HasSubstr("  <New/>\n</RunTimeDB>"));
 }
 
+TEST(RunTimeDB, AnotherProgramsChangeIsNotOverwrittenUnasked) {
+  const test::TempFolder folder;
+  const char* theirs = "<RunTimeDB><Theirs/></RunTimeDB>";
+  RunTimeDB database(folder.Write("db.xml", kTwoTools));
+  EXPECT_FALSE(database.ChangedOnDisk());
+  Document document;
+  document.CreateRoot("RunTimeDB").AppendElement("Mine");
+  ASSERT_TRUE(database.SetDOM(document));
+  folder.Write("db.xml", theirs);
+  EXPECT_TRUE(database.ChangedOnDisk());
+  EXPECT_THROW(database.Save(), OstException);
+  EXPECT_EQ(folder.Read("db.xml"), theirs);
+  database.KeepMine();
+  database.Save();
+  EXPECT_THAT(folder.Read("db.xml"), HasSubstr("<Mine/>"));
+  EXPECT_FALSE(database.ChangedOnDisk());
+  folder.Write("db.xml", theirs);
+  database.Reload();
+  EXPECT_EQ(database.Text(), theirs);
+  EXPECT_FALSE(database.ChangedOnDisk());
+}
+
+TEST(RunTimeDB, OneBackupOfWhatWasOpened) {
+  const test::TempFolder folder;
+  RunTimeDB database(folder.Write("db.xml", kTwoTools));
+  for (const char* name : {"First", "Second"}) {
+    Document document;
+    document.CreateRoot("RunTimeDB").AppendElement(name);
+    ASSERT_TRUE(database.SetDOM(document));
+    database.Save();
+    EXPECT_EQ(folder.Read("db.xml.bak"), kTwoTools);
+  }
+}
+
 TEST(RunTimeDB, ADatabaseInAnotherEncodingIsCarriedOnAsUtf8) {
   const test::TempFolder folder;
   RunTimeDB database(folder.Write(

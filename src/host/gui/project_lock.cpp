@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#include "host/gui/project_lock.h"
+
+#include <QFile>
+
+namespace Framework {
+
+ProjectLock::ProjectLock(const std::filesystem::path& database)
+    : path_(QString::fromStdString(database.string() + ".lock")), lock_(path_) {
+  // A lock that is merely old is still somebody's.
+  lock_.setStaleLockTime(0);
+}
+
+bool ProjectLock::Acquire() { return lock_.isLocked() || lock_.tryLock(0); }
+
+std::string ProjectLock::Holder() const {
+  if (lock_.error() == QLockFile::PermissionError) return "nobody, but its folder cannot be written";
+  qint64 process = 0;
+  QString machine;
+  QString program;
+  if (!lock_.getLockInfo(&process, &machine, &program)) return "a program that left a damaged lock";
+  return QStringLiteral("%1 (process %2 on %3)").arg(program).arg(process).arg(machine).toStdString();
+}
+
+bool ProjectLock::TakeOver() {
+  if (lock_.isLocked()) return true;
+  return (!QFile::exists(path_) || QFile::remove(path_)) && Acquire();
+}
+
+}  // namespace Framework

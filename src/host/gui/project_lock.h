@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#pragma once
+
+#include <QLockFile>
+#include <filesystem>
+#include <string>
+
+namespace Framework {
+
+/// Says to other programs that this one may write a run-time database: a lock file beside it,
+/// FILE.lock, that names program, process and machine. A lock whose process is gone is taken over;
+/// one of another machine, or a damaged one, stays until a person removes it.
+class ProjectLock {
+ public:
+  explicit ProjectLock(const std::filesystem::path& database);
+
+  /// False when another program holds the lock, or the folder takes no lock file.
+  bool Acquire();
+  [[nodiscard]] bool Held() const { return lock_.isLocked(); }
+  /// Who stands in the way, in words for a sentence: "sysdef (process 12 on host)".
+  [[nodiscard]] std::string Holder() const;
+  /// Removes the other program's lock and takes its place; false when that fails.
+  bool TakeOver();
+
+ private:
+  QString path_;
+  QLockFile lock_;
+};
+
+}  // namespace Framework

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#pragma once
+
+#include <QIcon>
+
+namespace GUI {
+
+enum class Image {
+  kAddRow,
+  kCopyRows,
+  kDeleteRows,
+  kMoveToTop,
+  kMoveUp,
+  kMoveDown,
+  kMoveToBottom,
+  kNew,
+  kDelete,
+  kImport,
+  kExport
+};
+
+/// The icon of an image button. Its colors are the palette's, with a disabled form, and it is crisp
+/// at every size.
+[[nodiscard]] QIcon Icon(Image image);
+
+}  // namespace GUI
