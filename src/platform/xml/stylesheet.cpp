@@ -10,7 +10,10 @@
 #include <libxslt/xsltInternals.h>
 #include <libxslt/xsltutils.h>
 
+#include <algorithm>
+#include <array>
 #include <new>
+#include <string_view>
 
 #include "platform/xml/library.h"
 #include "platform/xml/tree.h"
@@ -83,10 +86,38 @@ void Move(xmlDoc* from, xmlDoc* to) {
   for (xmlNode* node = to->children; node != nullptr; node = NextNode(node)) SetOwner(node, to);
 }
 
+constexpr std::array kInstructions{
+    "apply-imports", "apply-templates", "attribute", "attribute-set", "call-template", "choose",
+    "comment", "copy", "copy-of", "decimal-format", "element", "fallback", "for-each", "if",
+    "import", "include", "key", "message", "namespace-alias", "number", "otherwise", "output",
+    "param", "preserve-space", "processing-instruction", "sort", "strip-space", "stylesheet",
+    "template", "text", "transform", "value-of", "variable", "when", "with-param"};
+
+/// libxslt finds an element of its own name space that there is none of only when it is run, or
+/// without saying where it stands.
+void RefuseUnknownInstructions(const xmlNode* node) {
+  for (; node != nullptr; node = node->next) {
+    if (node->type != XML_ELEMENT_NODE) continue;
+    const bool isInstruction = node->ns != nullptr && xmlStrEqual(node->ns->href, XSLT_NAMESPACE);
+    const std::string_view name(reinterpret_cast<const char*>(node->name));
+    if (isInstruction &&
+        std::find(kInstructions.begin(), kInstructions.end(), name) == kInstructions.end()) {
+      const long line = xmlGetLineNo(node);
+      throw XmlError(std::to_string(line) + ": unknown instruction xsl:" + std::string(name), line);
+    }
+    RefuseUnknownInstructions(node->children);
+  }
+}
+
 }  // namespace
 
 Stylesheet Stylesheet::Compile(const Document& source, const std::string& name) {
   ErrorCollector errors;
+  try {
+    RefuseUnknownInstructions(source.Handle()->children);
+  } catch (const XmlError& error) {
+    throw XmlError(Located(name, error), error.Line());
+  }
   xmlDoc* tree = xmlCopyDoc(source.Handle(), 1);
   if (tree == nullptr) throw std::bad_alloc();
   std::shared_ptr<_xsltStylesheet> compiled(xsltParseStylesheetDoc(tree), [](xsltStylesheet* s) {
@@ -94,7 +125,9 @@ Stylesheet Stylesheet::Compile(const Document& source, const std::string& name) 
   });
   if (compiled == nullptr) xmlFreeDoc(tree);
   if (compiled == nullptr || compiled->errors != 0)
-    throw XmlError(name + ":" + errors.Message("the stylesheet cannot be read"), errors.Line());
+    throw XmlError(name + (errors.Line() > 0 ? ":" : ": ") +
+                       errors.Message("the stylesheet cannot be read"),
+                   errors.Line());
   return Stylesheet(std::move(compiled));
 }
 
