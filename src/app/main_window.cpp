@@ -66,6 +66,7 @@ QWidget* MainWindow::BuildCentre() {
   selector_ = new QListWidget;
   selector_->setAccessibleName(tr("Pages"));
   selector_->setMinimumWidth(120);
+  selector_->setStyleSheet(QStringLiteral("QListWidget::item { padding: 5px 8px; }"));
   connect(selector_, &QListWidget::currentRowChanged, this, &MainWindow::ShowPage);
 
   buttons_ = new QDialogButtonBox;
@@ -262,7 +263,7 @@ void MainWindow::DatabaseChanged() {
     } else {
       session_->Database().KeepMine();
     }
-  } catch (const OstException& error) {
+  } catch (const std::exception& error) {
     TellFailure(error.what());
   }
   asking_ = false;

@@ -2,8 +2,6 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "automation/script_sysdef.h"
 
-#include <utility>
-
 #include "automation/automation_error.h"
 #include "automation/input.h"
 #include "automation/script_dialog.h"
@@ -34,11 +32,21 @@ QJSValue MessageValue(QJSEngine& engine, const Interaction::Message& message) {
   return value;
 }
 
+/// The page's data object as it is now; that of a page that is not open is read first.
+Framework::PageServices& DataOf(Framework::PageHost& host, const std::string& page) {
+  const bool open = host.IsOpen(page);
+  Framework::PageServices& services = Framework::PageHost::Services(host.Create(page));
+  if (!open && !services.ReadFromRunTimeDB()) {
+    throw AutomationError(
+        QStringLiteral("the data of the page %1 cannot be read").arg(QString::fromStdString(page)));
+  }
+  return services;
+}
+
 }  // namespace
 
-ScriptSysdef::ScriptSysdef(ScriptContext& context, Framework::PageHost& host,
-                           std::function<bool()> save)
-    : context_(context), host_(host), save_(std::move(save)), logRead_(tostream::Lines().size()) {}
+ScriptSysdef::ScriptSysdef(ScriptContext& context, Framework::PageHost& host)
+    : context_(context), host_(host), logRead_(tostream::Lines().size()) {}
 
 bool ScriptSysdef::NeedToSave() const { return host_.GetTool().NeedToSave(); }
 void ScriptSysdef::SetNeedToSave(bool need) { host_.GetTool().SetNeedToSave(need ? 1 : 0); }
@@ -59,8 +67,7 @@ QObject* ScriptSysdef::open(const QString& name) {
 
 QString ScriptSysdef::exportData(const QString& name) {
   return context_.Guard([&] {
-    Framework::ToolPropertyPage& page = host_.Open(name.toStdString());
-    const platform::xml::Document data = Framework::PageHost::Services(page).ExportData();
+    const platform::xml::Document data = DataOf(host_, name.toStdString()).ExportData();
     return QString::fromStdString(data.ToText(platform::xml::TextForm::kBare));
   });
 }
@@ -85,7 +92,7 @@ QString ScriptSysdef::database() {
 }
 
 bool ScriptSysdef::save() {
-  return context_.Guard([&] { return save_(); });
+  return context_.Guard([&] { return host_.GetTool().Save() != 0; });
 }
 
 QJSValue ScriptSysdef::messages() {

@@ -5,8 +5,7 @@
 #include <QJSValue>
 #include <QObject>
 #include <QStringList>
-#include <functional>
-#include <string>
+#include <cstddef>
 
 #include "automation/script_context.h"
 
@@ -23,8 +22,8 @@ class ScriptSysdef : public QObject {
   Q_PROPERTY(bool needToBuild READ NeedToBuild WRITE SetNeedToBuild)
 
  public:
-  /// `save` saves the project; true on success. The host outlives the object.
-  ScriptSysdef(ScriptContext& context, Framework::PageHost& host, std::function<bool()> save);
+  /// The host outlives the object.
+  ScriptSysdef(ScriptContext& context, Framework::PageHost& host);
 
   [[nodiscard]] bool NeedToSave() const;
   void SetNeedToSave(bool need);
@@ -46,7 +45,6 @@ class ScriptSysdef : public QObject {
  private:
   ScriptContext& context_;
   Framework::PageHost& host_;
-  std::function<bool()> save_;
   std::size_t logRead_;  ///< entries of the log that the script has seen
 };
 

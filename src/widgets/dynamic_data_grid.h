@@ -18,8 +18,6 @@ class QAction;
 
 namespace GUI {
 
-class DataGridModel;
-
 /// A table whose columns are described once and whose rows a person adds, copies, deletes and
 /// moves. Rows count from 0 without the header. Each row has an id that is never 0 and stays with
 /// it, and each copied row remembers the id of the row it was copied from.
@@ -165,8 +163,25 @@ class CDynamicDataGrid : public QTableView, public TableAccess {
   void rowsAboutToBeChanged();
   void rowsChanged();
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
  private:
   struct Private;
+  [[nodiscard]] QModelIndex CellAt(int row, int column) const;
+  bool MoveSelected(BlockMove move);
+  bool SelectCell(int row, int column);
+  void StepFrom(CursorAction step);
+  void AddClipboardActions();
+  void CopyCells();
+  void PasteCells();
+
   std::unique_ptr<Private> d_;
 };
 

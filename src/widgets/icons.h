@@ -17,11 +17,12 @@ enum class Image {
   kNew,
   kDelete,
   kImport,
-  kExport
+  kExport,
+  kDropDown
 };
 
-/// The icon of an image button. Its colors are the palette's, with a disabled form, and it is crisp
-/// at every size.
+/// The icon of an image button or a cell. Its colors are the palette's, with a disabled form, and
+/// it is crisp at every size.
 [[nodiscard]] QIcon Icon(Image image);
 
 }  // namespace GUI

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <QList>
 #include <QToolButton>
 
 #include "widgets/icons.h"
@@ -20,13 +21,16 @@ class ImageButton : public QToolButton {
   explicit ImageButton(QWidget* parent = nullptr);
 
   /// The tool tip is also the accessible name of a button that has none.
-  void SetImage(Image image, const QString& toolTip);
-  /// Makes the button a grid's button for that operation: image, tool tip and enabling follow the
-  /// grid, and a click runs the operation there. Without a grid the button is disabled.
+  void SetImage(Image image, const QString& tip);
+  /// Makes the button a grid's button for that operation: its image, its tool tip where it has
+  /// none, enabling as the grid allows, and a click runs the operation there. The button may be
+  /// bound anew at any time; without a grid it is disabled.
   void BindTo(CDynamicDataGrid* grid, RowOperation operation);
 
  private:
   void NameIfUnnamed(const QString& name);
+
+  QList<QMetaObject::Connection> bindings_;
 };
 
 }  // namespace GUI

@@ -37,10 +37,12 @@ int Run(const app::CommandLine& line) {
   return app::RunWindowCommand(line);
 }
 
-/// Qt's notes about the session's folders are nothing a person at the command line asked for.
+/// Qt's notes about folders of the login and about its off-screen platform are nothing a person at
+/// the command line asked for.
 void PrintQtMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/,
                     const QString& message) {
   if (message.startsWith(QLatin1String("QStandardPaths: "))) return;
+  if (message.startsWith(QLatin1String("This plugin does not support"))) return;
   std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 

@@ -10,3 +10,10 @@ std::string CWSeg::getName() const {
 }
 
 bool CWSeg::hasPlace() const noexcept { return color_code::IsCounted(color_) && size_ > 0; }
+
+std::vector<CWSeg> CWSegsOf(std::span<const SSegGeom> segments) {
+  std::vector<CWSeg> wheel;
+  wheel.reserve(segments.size());
+  for (const SSegGeom& segment : segments) wheel.emplace_back(segment.Color, segment.Size);
+  return wheel;
+}

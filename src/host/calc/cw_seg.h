@@ -2,7 +2,11 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <span>
 #include <string>
+#include <vector>
+
+#include "host/data/s_seg_geom.h"
 
 /// One segment of a color wheel as the sequence calculations see it.
 class CWSeg {
@@ -20,3 +24,6 @@ class CWSeg {
   int color_;
   double size_;
 };
+
+/// A wheel's segments, in wheel order, as the calculations take them.
+[[nodiscard]] std::vector<CWSeg> CWSegsOf(std::span<const SSegGeom> segments);

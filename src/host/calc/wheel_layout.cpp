@@ -9,6 +9,11 @@ namespace wheel_layout {
 namespace {
 
 constexpr double kTurn = 360.0;
+/// Sizes that add up to a full turn on paper may miss it by rounding; nobody can see so small a
+/// gap.
+constexpr double kRoundingDegrees = 1e-9;
+
+double AboveRounding(double degrees) { return degrees > kRoundingDegrees ? degrees : 0.0; }
 
 std::vector<std::size_t> SegmentsWithPlace(std::span<const CWSeg> wheel) {
   std::vector<std::size_t> places;
@@ -20,9 +25,9 @@ std::vector<std::size_t> SegmentsWithPlace(std::span<const CWSeg> wheel) {
 
 }  // namespace
 
-double Layout::GapDegrees() const noexcept { return std::max(0.0, kTurn - totalDegrees); }
+double Layout::GapDegrees() const noexcept { return AboveRounding(kTurn - totalDegrees); }
 
-double Layout::OverflowDegrees() const noexcept { return std::max(0.0, totalDegrees - kTurn); }
+double Layout::OverflowDegrees() const noexcept { return AboveRounding(totalDegrees - kTurn); }
 
 Layout LayOut(std::span<const CWSeg> wheel, double spokeSizeDegrees) {
   Layout layout;
