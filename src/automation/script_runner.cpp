@@ -5,6 +5,7 @@
 #include <QJSEngine>
 #include <QRegularExpression>
 #include <QUrl>
+#include <utility>
 
 #include "automation/script_context.h"
 #include "automation/script_output.h"
@@ -51,12 +52,13 @@ struct ScriptRunner::State {
   ScriptContext context{engine};
 };
 
-ScriptRunner::ScriptRunner(Framework::PageHost& pages, std::vector<std::string> arguments,
-                           std::ostream& output)
+ScriptRunner::ScriptRunner(Framework::PageHost& pages, std::function<bool()> save,
+                           std::vector<std::string> arguments, std::ostream& output)
     : state_(std::make_unique<State>()) {
   QJSEngine& engine = state_->engine;
   QJSValue global = engine.globalObject();
-  global.setProperty("sysdef", engine.newQObject(new ScriptSysdef(state_->context, pages)));
+  global.setProperty("sysdef",
+                     engine.newQObject(new ScriptSysdef(state_->context, pages, std::move(save))));
   global.setProperty("print",
                      engine.evaluate(kPrint).call({engine.newQObject(new ScriptOutput(output))}));
   QJSValue args = engine.newArray(static_cast<uint>(arguments.size()));

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -18,10 +19,10 @@ namespace automation {
 /// file choices in the person's place, so there is one at a time.
 class ScriptRunner {
  public:
-  /// `arguments` are the script's `args`; `print` writes to `output`. Host and output outlive the
-  /// runner.
-  ScriptRunner(Framework::PageHost& pages, std::vector<std::string> arguments,
-               std::ostream& output);
+  /// `save` saves the project; true on success. `arguments` are the script's `args`; `print`
+  /// writes to `output`. Host and output outlive the runner.
+  ScriptRunner(Framework::PageHost& pages, std::function<bool()> save,
+               std::vector<std::string> arguments, std::ostream& output);
   ~ScriptRunner();
   ScriptRunner(const ScriptRunner&) = delete;
   ScriptRunner& operator=(const ScriptRunner&) = delete;

@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "automation/script_sysdef.h"
 
+#include <utility>
+
 #include "automation/automation_error.h"
 #include "automation/input.h"
 #include "automation/script_dialog.h"
@@ -45,8 +47,9 @@ Framework::PageServices& DataOf(Framework::PageHost& host, const std::string& pa
 
 }  // namespace
 
-ScriptSysdef::ScriptSysdef(ScriptContext& context, Framework::PageHost& host)
-    : context_(context), host_(host), logRead_(tostream::Lines().size()) {}
+ScriptSysdef::ScriptSysdef(ScriptContext& context, Framework::PageHost& host,
+                           std::function<bool()> save)
+    : context_(context), host_(host), save_(std::move(save)), logRead_(tostream::Lines().size()) {}
 
 bool ScriptSysdef::NeedToSave() const { return host_.GetTool().NeedToSave(); }
 void ScriptSysdef::SetNeedToSave(bool need) { host_.GetTool().SetNeedToSave(need ? 1 : 0); }
@@ -92,7 +95,7 @@ QString ScriptSysdef::database() {
 }
 
 bool ScriptSysdef::save() {
-  return context_.Guard([&] { return host_.GetTool().Save() != 0; });
+  return context_.Guard([&] { return save_(); });
 }
 
 QJSValue ScriptSysdef::messages() {

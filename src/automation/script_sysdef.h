@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QStringList>
 #include <cstddef>
+#include <functional>
 
 #include "automation/script_context.h"
 
@@ -22,8 +23,8 @@ class ScriptSysdef : public QObject {
   Q_PROPERTY(bool needToBuild READ NeedToBuild WRITE SetNeedToBuild)
 
  public:
-  /// The host outlives the object.
-  ScriptSysdef(ScriptContext& context, Framework::PageHost& host);
+  /// `save` saves the project; true on success. The host outlives the object.
+  ScriptSysdef(ScriptContext& context, Framework::PageHost& host, std::function<bool()> save);
 
   [[nodiscard]] bool NeedToSave() const;
   void SetNeedToSave(bool need);
@@ -45,6 +46,7 @@ class ScriptSysdef : public QObject {
  private:
   ScriptContext& context_;
   Framework::PageHost& host_;
+  std::function<bool()> save_;
   std::size_t logRead_;  ///< entries of the log that the script has seen
 };
 
