@@ -56,6 +56,7 @@ void Command::Start(QProcess& program, const std::vector<std::string>& arguments
   program.setProcessEnvironment(PlainEnvironment(folder_.Path() / kHome));
   if (fileSize_) program.setChildProcessModifier([bytes = *fileSize_] { LimitOwnFileSize(bytes); });
   program.start(SYSDEF_BINARY_DIR "/bin/sysdef", list);
+  program.waitForStarted();
 }
 
 CommandResult Command::Run(const std::vector<std::string>& arguments, const std::string& input) {
