@@ -7,11 +7,11 @@ namespace test {
 OpenProject::OpenProject(const std::string& database, const std::string& keys) {
   folder_.Write("test.ostproj", "<OstProject>" + keys + "</OstProject>");
   folder_.Write("runtimedb.xml", database);
-  SetMessageBoxResponder([this](const std::string& text, const std::string& caption,
-                                unsigned style) {
-    boxes_.push_back({text, caption, style});
-    return answer;
-  });
+  SetMessageBoxResponder(
+      [this](const std::string& text, const std::string& caption, unsigned style) {
+        boxes_.push_back({text, caption, style});
+        return answer;
+      });
   Restart();
 }
 
