@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFileSystemWatcher>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -17,12 +18,14 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "app/recent_projects.h"
 #include "app/session.h"
 #include "host/gui/message_box.h"
 #include "host/gui/page_host.h"
+#include "host/gui/project_lock.h"
 #include "host/gui/tool.h"
 #include "host/gui/tool_frame.h"
 #include "host/gui/tool_property_page.h"
@@ -116,7 +119,8 @@ void MainWindow::BuildActions() {
   recent_ = file->addMenu(tr("Open &Recent"));
   connect(recent_, &QMenu::aboutToShow, this, &MainWindow::FillRecent);
   file->addSeparator();
-  AddAction(file, tr("&Save"), QKeySequence::Save, &MainWindow::SaveNow);
+  save_ = AddAction(file, tr("&Save"), QKeySequence::Save, &MainWindow::SaveNow);
+  takeOver_ = AddAction(file, tr("&Take Over Lock..."), {}, &MainWindow::TakeOverLock);
   file->addSeparator();
   connect(file->addAction(tr("&Quit")), &QAction::triggered, this, &QWidget::close);
   file->actions().constLast()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
@@ -162,42 +166,106 @@ void MainWindow::Open(const QString& project) {
   // One tool of a name lives at a time, so the old project closes before the new one opens, and
   // opens again when the new one cannot.
   const std::string before = session_ ? session_->Project().File().string() : std::string();
-  const auto close = [this] {
-    if (session_) session_->Tool().CloseGui();
-    view_ = nullptr;
-    session_.reset();
-    edited_.clear();
-    const QSignalBlocker quiet(selector_);
-    selector_->clear();
-    pageNames_.clear();
-  };
-  const auto open = [this](const std::string& file) {
-    session_ = std::make_unique<Session>(file);
-    auto* frame = dynamic_cast<Framework::ToolFrame*>(session_->Tool().OpenGui());
-    if (!frame) throw OstException(file + ": the tool has no window");
-    view_ = frame->View();
-    auto* layout = static_cast<QVBoxLayout*>(splitter_->widget(1)->layout());
-    layout->insertWidget(0, frame, 1);
-    connect(view_, &Framework::ToolView::Edited, this, &MainWindow::MarkEdited);
-    session_->Tool().SetFlagListener([this] { UpdateState(); });
-    for (const std::string& name : Framework::PageHost::Names()) {
-      pageNames_ << QString::fromStdString(name);
-      const QSignalBlocker quiet(selector_);
-      selector_->addItem(session_->Pages().Title(name));
-    }
-  };
-  close();
+  CloseSession();
   try {
-    open(project.toStdString());
+    ShowSession(project.toStdString());
   } catch (const OstException&) {
-    close();
-    if (!before.empty()) open(before);
+    CloseSession();
+    if (!before.empty()) ShowSession(before);
     UpdateState();
     throw;
   }
   RecentProjects::Add(QString::fromStdString(session_->Project().File().string()));
+}
+
+void MainWindow::CloseSession() {
+  if (session_) session_->Tool().CloseGui();
+  delete watcher_;
+  watcher_ = nullptr;
+  view_ = nullptr;
+  lock_.reset();
+  session_.reset();
+  edited_.clear();
+  pageNames_.clear();
+  const QSignalBlocker quiet(selector_);
+  selector_->clear();
+}
+
+void MainWindow::ShowSession(const std::string& file) {
+  session_ = std::make_unique<Session>(file);
+  auto* frame = dynamic_cast<Framework::ToolFrame*>(session_->Tool().OpenGui());
+  if (!frame) throw OstException(file + ": the tool has no window");
+  view_ = frame->View();
+  static_cast<QVBoxLayout*>(splitter_->widget(1)->layout())->insertWidget(0, frame, 1);
+  connect(view_, &Framework::ToolView::Edited, this, &MainWindow::MarkEdited);
+  session_->Tool().SetFlagListener([this] { UpdateState(); });
+  {
+    const QSignalBlocker quiet(selector_);
+    for (const std::string& name : Framework::PageHost::Names()) {
+      pageNames_ << QString::fromStdString(name);
+      selector_->addItem(session_->Pages().Title(name));
+    }
+  }
+  LockProject();
+  WatchDatabase();
   selector_->setCurrentRow(0);
   selector_->setFocus();
+  UpdateState();
+}
+
+void MainWindow::LockProject() {
+  lock_ = std::make_unique<Framework::ProjectLock>(session_->Database().File());
+  if (lock_->Acquire()) return;
+  const std::string question = "The project is held by " + lock_->Holder() +
+                               ". Open it to look at only?";
+  const int answer = ShowMessageBox(question, "Project in Use",
+                                    msgbox::kYesNo | msgbox::kIconQuestion);
+  if (answer == msgbox::kAnswerNo) {
+    throw OstException(session_->Project().File().string() + ": held by " + lock_->Holder());
+  }
+}
+
+void MainWindow::TakeOverLock() {
+  const std::string question =
+      "The project is held by " + lock_->Holder() +
+      ". Remove its lock? What the other program saves from now on may be lost.";
+  const int answer =
+      ShowMessageBox(question, "Project in Use",
+                     msgbox::kYesNo | msgbox::kIconWarning | msgbox::kDefaultButton2);
+  if (answer != msgbox::kAnswerYes) return;
+  if (!lock_->TakeOver()) TellFailure("The lock could not be removed.");
+  UpdateState();
+}
+
+void MainWindow::WatchDatabase() {
+  // A file replaced as one step is another file, so its folder is watched too.
+  const auto& file = session_->Database().File();
+  watcher_ = new QFileSystemWatcher(this);
+  watcher_->addPath(QString::fromStdString(file.parent_path().string()));
+  watcher_->addPath(QString::fromStdString(file.string()));
+  const auto later = [this] { QTimer::singleShot(200, this, &MainWindow::DatabaseChanged); };
+  connect(watcher_, &QFileSystemWatcher::directoryChanged, this, later);
+  connect(watcher_, &QFileSystemWatcher::fileChanged, this, later);
+}
+
+void MainWindow::DatabaseChanged() {
+  if (!session_ || asking_ || !session_->Database().ChangedOnDisk()) return;
+  asking_ = true;
+  const int answer = ShowMessageBox(
+      "Another program changed the project's database. Load its changes? What is not saved here is "
+      "lost then; No keeps it, and the next save replaces what the other program wrote.",
+      "Database Changed", msgbox::kYesNo | msgbox::kIconQuestion);
+  try {
+    if (answer == msgbox::kAnswerYes) {
+      session_->Tool().Reload();
+      edited_.clear();
+    } else {
+      session_->Database().KeepMine();
+    }
+  } catch (const std::exception& error) {
+    TellFailure(error.what());
+  }
+  asking_ = false;
   UpdateState();
 }
 
@@ -239,6 +307,10 @@ void MainWindow::Revert() {
 
 bool MainWindow::Save() {
   if (!session_) return true;
+  if (!lock_->Held()) {
+    TellFailure("The project is open to look at only: it is held by " + lock_->Holder() + ".");
+    return false;
+  }
   const std::string refused = session_->Pages().ApplyAll();
   if (!refused.empty()) {
     selector_->setCurrentRow(static_cast<int>(pageNames_.indexOf(QString::fromStdString(refused))));
@@ -284,7 +356,14 @@ void MainWindow::UpdateState() {
   setWindowTitle(open ? name + QStringLiteral("[*]") : QString());
   setWindowModified(open && (session_->Tool().NeedToSave() || session_->Database().Modified() ||
                              !edited_.empty()));
+  const bool writable = open && lock_ && lock_->Held();
+  if (open && lock_ && !writable) setWindowTitle(windowTitle() + tr(" (read-only)"));
   buttons_->setEnabled(open);
+  for (QAbstractButton* button : buttons_->buttons()) {
+    if (buttons_->buttonRole(button) == QDialogButtonBox::AcceptRole) button->setEnabled(writable);
+  }
+  save_->setEnabled(writable);
+  takeOver_->setEnabled(open && !writable);
 }
 
 void MainWindow::TellFailure(const std::string& text) {

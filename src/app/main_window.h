@@ -9,6 +9,7 @@
 #include <string>
 
 class QAction;
+class QFileSystemWatcher;
 class QDialogButtonBox;
 class QListWidget;
 class QMenu;
@@ -16,6 +17,7 @@ class QPlainTextEdit;
 class QSplitter;
 
 namespace Framework {
+class ProjectLock;
 class ToolView;
 }
 
@@ -48,6 +50,14 @@ class MainWindow : public QMainWindow {
                      void (MainWindow::*slot)());
   QWidget* BuildCentre();
 
+  void ShowSession(const std::string& file);
+  void CloseSession();
+  /// Asks whether a project that another program holds is to be looked at only.
+  void LockProject();
+  void WatchDatabase();
+  void DatabaseChanged();
+  void TakeOverLock();
+
   void ChooseProject();
   void TryOpen(const QString& project);
   void FillRecent();
@@ -67,11 +77,16 @@ class MainWindow : public QMainWindow {
   void TellFailure(const std::string& text);
 
   std::unique_ptr<Session> session_;
+  std::unique_ptr<Framework::ProjectLock> lock_;
+  QFileSystemWatcher* watcher_ = nullptr;
+  bool asking_ = false;
   Framework::ToolView* view_ = nullptr;
   QSplitter* splitter_ = nullptr;
   QListWidget* selector_ = nullptr;
   QDialogButtonBox* buttons_ = nullptr;
   QMenu* recent_ = nullptr;
+  QAction* save_ = nullptr;
+  QAction* takeOver_ = nullptr;
   QPlainTextEdit* log_ = nullptr;
   QStringList pageNames_;
   /// Pages with edits that they have not stored yet.

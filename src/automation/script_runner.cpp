@@ -11,6 +11,7 @@
 #include "automation/script_output.h"
 #include "automation/script_sysdef.h"
 #include "platform/file/file.h"
+#include "platform/file/file_error.h"
 #include "platform/text/code_page.h"
 
 namespace automation {

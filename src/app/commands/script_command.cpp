@@ -9,12 +9,18 @@
 #include "app/exit_status.h"
 #include "app/session.h"
 #include "automation/script_runner.h"
+#include "host/gui/tool.h"
 
 namespace app {
 
 int RunScriptCommand(const CommandLine& line) {
   const Session session(line.projects.front());
-  automation::ScriptRunner runner(session.Pages(), line.arguments, std::cout);
+  const auto save = [&session] {
+    if (session.Tool().Save()) return true;
+    TellError(session.Tool().LastError());
+    return false;
+  };
+  automation::ScriptRunner runner(session.Pages(), save, line.arguments, std::cout);
   if (const auto error = runner.Run(line.file)) {
     TellError(*error);
     return kRefused;

@@ -3,6 +3,7 @@
 #include "host/project/run_time_db.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -46,7 +47,7 @@ struct RunTimeDB::State {
   std::optional<std::string> raw;  ///< the file's bytes where `text` is not the same
   bool existed = false;            ///< whether there was a file to read
   bool backedUp = false;
-  bool mayReplace = false;         ///< whatever the file holds now
+  std::optional<std::size_t> mayReplace;  ///< digest of another program's bytes, given up
 
   Fragment* Find(std::string_view name) {
     const auto found = std::find_if(fragments.begin(), fragments.end(),
@@ -98,12 +99,13 @@ void RunTimeDB::State::Load() {
 
 bool RunTimeDB::State::Known(const std::optional<std::string>& bytes) const {
   if (!bytes) return !existed;
+  if (mayReplace == std::hash<std::string>()(*bytes)) return true;
   return existed && *bytes == (raw ? *raw : text);
 }
 
 void RunTimeDB::State::Write() {
   const auto before = OnDisk();
-  if (!mayReplace && !Known(before)) {
+  if (!Known(before)) {
     throw OstException(file.string() + ": not saved: another program changed the file");
   }
   // The bytes are read back before they are written, so that what stands in the file opens.
@@ -230,7 +232,13 @@ bool RunTimeDB::ChangedOnDisk() const {
   }
 }
 
-void RunTimeDB::KeepMine() { state_->mayReplace = true; }
+void RunTimeDB::KeepMine() {
+  if (const auto bytes = state_->OnDisk()) {
+    state_->mayReplace = std::hash<std::string>()(*bytes);
+  } else {
+    state_->existed = false;
+  }
+}
 
 const std::filesystem::path& RunTimeDB::File() const noexcept { return state_->file; }
 

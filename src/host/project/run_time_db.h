@@ -45,7 +45,8 @@ class RunTimeDB {
   void Save();
   /// Whether the file's bytes are no longer those that were read or saved last.
   [[nodiscard]] bool ChangedOnDisk() const;
-  /// Lets the next save replace what another program wrote.
+  /// Lets a save replace what another program wrote up to now. Throws platform::FileError when it
+  /// cannot be read.
   void KeepMine();
   /// Drops unsaved changes and reads the file anew. Throws as the constructor, changing nothing.
   void Reload();
