@@ -52,11 +52,13 @@ LineChart::Range ChartData::FittingRange(LineChart::Axis axis, LineChart::Scale 
   for (const ChartSeries& s : series) {
     std::ranges::for_each(s.points, add);
     if (s.style != LineChart::Style::kBars) continue;
-    // Bars stand on 0 and are as wide to either side.
+    // Bars are as wide to either side. They stand on 0, or on a logarithmic axis a little below
+    // the lowest.
     const double half = BarWidth(s.points) / 2;
     for (const QPointF& point : s.points) {
-      add({point.x() - half, 0.0});
-      add({point.x() + half, 0.0});
+      const double foot = scale == LineChart::Scale::kLogarithmic ? point.y() / 4 : 0.0;
+      add({point.x() - half, foot});
+      add({point.x() + half, foot});
     }
   }
   const ChartRange range = fit.Result(isX ? 0.02 : 0.08);

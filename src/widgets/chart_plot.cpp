@@ -17,6 +17,7 @@ namespace {
 
 /// Markers along a line: enough to tell series apart, few enough to see the line.
 constexpr int kMarkersPerSeries = 16;
+constexpr int kLegendColumns = 5;
 
 constexpr std::array kMarkers{QCPScatterStyle::ssDisc,     QCPScatterStyle::ssSquare,
                               QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond,
@@ -77,6 +78,7 @@ struct ChartPlot::Private {
   Drawn Draw(const ChartSeries& s);
   QCPItemText* MakeText(const QString& text, Qt::Alignment alignment);
   void FillLegend();
+  void PlaceLegend(bool below);
   void DressAxis(const ChartTheme& theme, const QFont& font, QCPAxis& axis) const;
   void DressSeries(const ChartTheme& theme, int number) const;
   void DressCursor(const ChartTheme& theme, const QFont& font) const;
@@ -100,7 +102,11 @@ ChartPlot::Private::Private(ChartPlot& chart) : owner(chart), plot(new Plot(&cha
   plot->setMouseTracking(true);
   plot->setInteractions(QCP::iRangeDrag);
   plot->setAutoAddPlottableToLegend(false);
-  plot->axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignTop | Qt::AlignRight);
+  // Without a size there is nothing to draw on.
+  plot->setMinimumSize(50, 50);
+  plot->legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
+  plot->legend->setWrap(kLegendColumns);
+  plot->legend->setBorderPen(Qt::NoPen);
   tracer = new QCPItemTracer(plot);
   tracer->setStyle(QCPItemTracer::tsCircle);
   tracer->setSize(9);
@@ -162,7 +168,23 @@ void ChartPlot::Private::FillLegend() {
   };
   for (const Drawn& drawn : series) add(drawn.plottable);
   for (const Area& area : areas) add(area.upper);
-  plot->legend->setVisible(legend && plot->legend->itemCount() > 0);
+  const bool shown = legend && plot->legend->itemCount() > 0;
+  plot->legend->setVisible(shown);
+  PlaceLegend(shown);
+}
+
+/// The legend stands below the axes, where it hides nothing; one that is not shown takes no room.
+void ChartPlot::Private::PlaceLegend(bool below) {
+  QCPLayoutGrid& rows = *plot->plotLayout();
+  plot->legend->layout()->take(plot->legend);
+  rows.simplify();
+  if (!below) {
+    plot->axisRect()->insetLayout()->addElement(plot->legend, Qt::AlignTop | Qt::AlignRight);
+    return;
+  }
+  const int last = rows.rowCount();
+  rows.addElement(last, 0, plot->legend);
+  rows.setRowStretchFactor(last, 0.001);
 }
 
 void ChartPlot::Private::DressAxis(const ChartTheme& theme, const QFont& font,
@@ -342,8 +364,7 @@ void ChartPlot::AddMarker(Axis axis, double value, const QString& label) {
   d_->markers.push_back(line);
   if (label.isEmpty()) return;
   const bool isX = axis == Axis::kX;
-  QCPItemText* text =
-      d_->MakeText(label, isX ? Qt::AlignLeft | Qt::AlignBottom : Qt::AlignLeft | Qt::AlignBottom);
+  QCPItemText* text = d_->MakeText(label, Qt::AlignLeft | Qt::AlignBottom);
   PlaceAcross(*text->position, axis, value, isX ? 1.0 : 0.0);
 }
 
@@ -405,7 +426,6 @@ void ChartPlot::Dress(const ChartTheme& theme, const QFont& font) {
     text->setFont(font);
   }
   d_->plot->legend->setBrush(theme.background);
-  d_->plot->legend->setBorderPen(QPen(theme.grid));
   d_->plot->legend->setTextColor(theme.ink);
   d_->plot->legend->setFont(font);
   if (d_->title) d_->title->setTextColor(theme.ink);

@@ -32,6 +32,7 @@ QTreeWidgetItem& checkedlist::Item(int item) {
   while (topLevelItemCount() <= item) {
     auto* made = new QTreeWidgetItem(this, {QString(), CheckText(false)});
     made->setCheckState(0, Qt::Unchecked);
+    made->setSizeHint(0, {0, fontMetrics().height() + 8});
   }
   return *topLevelItem(item);
 }
@@ -45,7 +46,10 @@ void checkedlist::SetItemText(int item, int column, const QString& text) {
   if (column == 1) changed.setCheckState(0, text == CheckText(true) ? Qt::Checked : Qt::Unchecked);
 }
 
-QString checkedlist::ItemText(int item, int column) const { return CellText(item, column); }
+QString checkedlist::ItemText(int item, int column) const {
+  const QTreeWidgetItem* found = topLevelItem(item);
+  return found ? found->text(column) : QString();
+}
 
 void checkedlist::EnableItem(int item, bool enabled) {
   const QSignalBlocker quiet(this);
@@ -56,8 +60,6 @@ bool checkedlist::ItemEnabled(int item) const {
   const QTreeWidgetItem* found = topLevelItem(item);
   return found && !found->isDisabled();
 }
-
-QAbstractItemView& checkedlist::View() const { return const_cast<checkedlist&>(*this); }
 
 void checkedlist::keyPressEvent(QKeyEvent* event) {
   // The box is in column 0, whatever column the mouse made current.

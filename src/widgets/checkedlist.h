@@ -4,11 +4,9 @@
 
 #include <QTreeWidget>
 
-#include "widgets/view_table_access.h"
-
 /// A list whose items are checked or not: column 0 is the item's text with its box, column 1 reads
 /// "Yes" when the item is checked and "No" otherwise. Items count from 0.
-class checkedlist : public QTreeWidget, public GUI::ViewTableAccess {
+class checkedlist : public QTreeWidget {
   Q_OBJECT
 
  public:
@@ -31,7 +29,6 @@ class checkedlist : public QTreeWidget, public GUI::ViewTableAccess {
   void checkChanged(int item);
 
  protected:
-  [[nodiscard]] QAbstractItemView& View() const override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -47,6 +47,20 @@ bool IsLeft(const QEvent& event, QEvent::Type type, const QRect& rect) {
   return mouse.button() == Qt::LeftButton && rect.contains(mouse.position().toPoint());
 }
 
+QColor Mixed(const QColor& a, const QColor& b, double share) {
+  const auto mix = [share](int x, int y) { return qRound(x + (y - x) * share); };
+  return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+
+/// A line between cells that shows on light and dark backgrounds; the style's own vanishes on dark
+/// ones.
+void DrawLines(QPainter& painter, const QStyleOptionViewItem& option) {
+  const QPalette& palette = option.palette;
+  painter.setPen(Mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.2));
+  painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+  painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
+}
+
 QStyle& StyleOf(const QStyleOptionViewItem& option) {
   return option.widget ? *option.widget->style() : *QApplication::style();
 }
@@ -99,6 +113,7 @@ void DataGridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
   const CellKind kind = model_.Column(index.column()).kind;
   if (kind == CellKind::kCheckBox) PaintBox(*painter, option, index);
   if (kind == CellKind::kPushButton) PaintButton(*painter, option, index);
+  DrawLines(*painter, option);
 }
 
 void DataGridDelegate::PaintBox(QPainter& painter, const QStyleOptionViewItem& option,
@@ -106,6 +121,9 @@ void DataGridDelegate::PaintBox(QPainter& painter, const QStyleOptionViewItem& o
   QStyleOptionButton box;
   box.rect = BoxRect(option.rect);
   box.palette = option.palette;
+  // The style draws the frame in a darker window color, which a dark palette would hide.
+  box.palette.setColor(QPalette::Window, Mixed(option.palette.color(QPalette::Base),
+                                               option.palette.color(QPalette::Text), 0.6));
   box.state = option.state & ~(QStyle::State_HasFocus | QStyle::State_Selected);
   if (!model_.IsChangeable(index.row(), index.column())) box.state &= ~QStyle::State_Enabled;
   box.state |= model_.IsChecked(index.row(), index.column()) ? QStyle::State_On : QStyle::State_Off;

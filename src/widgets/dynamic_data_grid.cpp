@@ -54,6 +54,8 @@ CDynamicDataGrid::CDynamicDataGrid(QWidget* parent)
   setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
   setSelectionMode(ExtendedSelection);
   setWordWrap(false);
+  // The cells draw their own lines.
+  setShowGrid(false);
   setContextMenuPolicy(Qt::ActionsContextMenu);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setHighlightSections(false);

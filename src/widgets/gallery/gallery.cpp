@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QTableWidget>
 #include <QVBoxLayout>
 #include <cmath>
 #include <numbers>
@@ -18,7 +19,6 @@
 #include "widgets/image_button.h"
 #include "widgets/line_chart.h"
 #include "widgets/tab_sheet.h"
-#include "widgets/view_table_access.h"
 
 namespace GUI {
 
@@ -42,8 +42,10 @@ QVBoxLayout* MakeButtons(QWidget* parent, CDynamicDataGrid* grid,
   return column;
 }
 
-ReadOnlyTable* MakeReadOnlyTable(QWidget* parent) {
-  auto* table = new ReadOnlyTable(parent);
+QTableWidget* MakeReadOnlyTable(QWidget* parent) {
+  auto* table = new QTableWidget(parent);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->verticalHeader()->hide();
   table->setAccessibleName(QStringLiteral("Supported Frame Rates"));
   table->setColumnCount(2);
   table->setHorizontalHeaderLabels({QStringLiteral("Source Frame Rates"), QStringLiteral("Mode")});
@@ -155,7 +157,7 @@ QWidget* Gallery::MakeChartPage() {
                     LineChart::Style::kSteps);
   chart_->AddMarker(LineChart::Axis::kY, 1.5, QStringLiteral("Limit"));
   chart_->AddMarker(LineChart::Axis::kX, 8330, QStringLiteral("Half"));
-  chart_->AddLabel({4100, 1.6}, QStringLiteral("S pulse"));
+  chart_->AddLabel({4100, 1.35}, QStringLiteral("S pulse"));
   auto* bars = new LineChart(page);
   bars->setAccessibleName(QStringLiteral("Counts"));
   bars->SetAxisTitle(LineChart::Axis::kX, QStringLiteral("Bin"));
