@@ -11,6 +11,7 @@
 #include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
+#include <utility>
 
 #include "automation/accessible_name.h"
 #include "automation/aligned_text.h"
@@ -25,18 +26,28 @@ namespace {
 
 QString Mark(bool checked) { return checked ? QStringLiteral("[x] ") : QStringLiteral("[ ] "); }
 
+QString CellText(const Table& table, int row, int column) {
+  const QString text = table.Cell(row, column).replace('\n', ' ');
+  return table.Checked(row, column) ? (Mark(true) + text).trimmed() : text;
+}
+
 /// Lines under headings. Values are kept back until something else comes, so that they line up.
 class Writer {
  public:
   void Heading(const QString& title, QChar rule) {
-    EndValues();
-    if (!text_.isEmpty()) text_ += '\n';
+    Gap();
     Line(title);
     Line(QString(DisplayWidth(title), rule));
   }
   void Line(const QString& line) {
     EndValues();
-    text_ += line.isEmpty() ? QStringLiteral("\n") : QString(indent_, ' ') + line + '\n';
+    if (std::exchange(gap_, false) && !text_.isEmpty()) text_ += '\n';
+    text_ += QString(indent_, ' ') + line + '\n';
+  }
+  /// One empty line before what comes next.
+  void Gap() {
+    EndValues();
+    gap_ = true;
   }
   void Value(const QString& name, const QString& value) {
     values_.push_back({name, QString(value).replace('\n', ' ')});
@@ -65,6 +76,7 @@ class Writer {
   QString text_;
   TextRows values_;
   int indent_ = 0;
+  bool gap_ = false;
 };
 
 class Printer {
@@ -134,11 +146,12 @@ class Printer {
   void PrintGroup(QGroupBox& group) {
     const QString title = ShownText(group);
     if (title.isEmpty()) return Inside(group);
-    writer_.Line(QString());
+    writer_.Gap();
     writer_.Line((group.isCheckable() ? Mark(group.isChecked()) : QString()) + title);
     writer_.Indent(2);
     Inside(group);
     writer_.Indent(-2);
+    writer_.Gap();
   }
 
   void PrintTabs(QTabWidget& sheet) {
@@ -158,16 +171,15 @@ class Printer {
     for (int row = 0; row < table.Rows(); ++row) {
       QStringList cells;
       for (int column = 0; column < table.Columns(); ++column)
-        cells.append((table.Checked(row, column) ? Mark(true) : QString()) +
-                     table.Cell(row, column).replace('\n', ' '));
+        cells.append(CellText(table, row, column));
       rows.push_back(cells);
     }
-    writer_.Line(QString());
-    writer_.Line(table.Name());
+    writer_.Gap();
+    if (!table.Name().isEmpty()) writer_.Line(table.Name());
     writer_.Indent(2);
     for (const QString& line : AlignedLines(rows, true)) writer_.Line(line);
     writer_.Indent(-2);
-    writer_.Line(QString());
+    writer_.Gap();
   }
 
   QWidget& window_;

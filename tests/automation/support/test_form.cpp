@@ -158,12 +158,12 @@ void TestForm::AddTables(QFormLayout& layout) {
 
 void TestForm::AddTabs(QFormLayout& layout) {
   sheet = new QTabWidget;
-  for (const char* tab : {"&General", "Extra", "Third"}) {
+  for (const char* tab : {"General", "Extra", "Third"}) {
     auto* page = new QWidget;
     auto* fields = new QFormLayout(page);
     fields->addRow("Width (mm)", new QLineEdit(QStringLiteral("of ") + tab));
     fields->addRow(QStringLiteral("Only %1").arg(tab), new QLineEdit("1"));
-    sheet->addTab(page, tab);
+    sheet->addTab(page, QLatin1Char('&') + QLatin1String(tab));
   }
   sheet->setTabEnabled(1, false);
   layout.addRow(sheet);
