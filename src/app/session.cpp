@@ -14,6 +14,7 @@
 #include "host/project/database_schema.h"
 #include "host/project/ost_exception.h"
 #include "host/project/ost_project.h"
+#include "host/project/page_table.h"
 #include "host/project/run_time_db.h"
 #include "host/project/support_files.h"
 
@@ -69,6 +70,8 @@ Session::Session(const std::filesystem::path& project)
       database_(std::make_unique<Framework::RunTimeDB>(project_->RunTimeDBFile(),
                                                        schema_->Numbers())),
       tool_(MakeTool()) {
+  // A project whose page table is damaged would show no page at all.
+  static_cast<void>(ReadPageTable(*project_));
   tool_->SetRunTimeDB(database_.get());
   tool_->SetProject(project_.get());
 }

@@ -92,7 +92,8 @@ void Control::SetText(const QString& text) {
 }
 
 void Control::Type(const QString& keys) {
-  GiveFocus(Reachable(), Qt::TabFocusReason);
+  // A field that is reached by Tab selects its text, which the first key would then replace.
+  GiveFocus(Reachable(), Qt::OtherFocusReason);
   for (const char32_t character : keys.toStdU32String()) PressCharacter(Reachable(), character);
   Settle();
 }

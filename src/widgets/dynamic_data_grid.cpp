@@ -38,10 +38,17 @@ CDynamicDataGrid::Private::Private(CDynamicDataGrid& owner)
       delegate(model),
       rowActions(owner, [this](RowOperation operation) { grid.RunRowOperation(operation); }),
       columnFit(owner),
-      corner(MakeCorner(owner)) {}
+      corner(MakeCorner(owner)) {
+  scrollLater.setSingleShot(true);
+  scrollLater.setInterval(0);
+  QObject::connect(&scrollLater, &QTimer::timeout, &owner,
+                   [this] { grid.scrollTo(grid.currentIndex()); });
+}
 
 CDynamicDataGrid::CDynamicDataGrid(QWidget* parent)
     : QTableView(parent), d_(std::make_unique<Private>(*this)) {
+  // Before the model: from then on the selection sets the actions.
+  AddClipboardActions();
   setModel(&d_->model);
   setItemDelegate(&d_->delegate);
   setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
@@ -50,8 +57,10 @@ CDynamicDataGrid::CDynamicDataGrid(QWidget* parent)
   setContextMenuPolicy(Qt::ActionsContextMenu);
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setHighlightSections(false);
+  // With the table's selection the row headings would find their places for every row added; they
+  // do not show it.
   verticalHeader()->setHighlightSections(false);
-  AddClipboardActions();
+  verticalHeader()->setSelectionModel(new QItemSelectionModel(&d_->model, verticalHeader()));
   d_->UpdateRowHeight();
   d_->UpdateActions();
   connect(&d_->model, &DataGridModel::cellEdited, this, &CDynamicDataGrid::cellEditEnded);
@@ -69,7 +78,8 @@ CDynamicDataGrid::CDynamicDataGrid(const GridColumn* columns, int count, QWidget
 }
 
 CDynamicDataGrid::~CDynamicDataGrid() {
-  // The model goes before the view.
+  // The model goes before the view; nobody is to hear of it.
+  d_->quiet = true;
   setModel(nullptr);
 }
 
@@ -136,7 +146,7 @@ void CDynamicDataGrid::ClearRows() {
   if (RowCount() == 0) return;
   d_->ChangeRows([this] {
     d_->copyMap.clear();
-    d_->ClearSelectionQuietly();
+    d_->SelectQuietly({});
     d_->model.Clear();
   });
   emit rowSelectionChanged();
@@ -170,7 +180,7 @@ bool CDynamicDataGrid::DeleteSelectedRows() {
     for (const auto& [first, last] : blocks) {
       for (int row = first; row <= last; ++row) d_->copyMap.erase(RowId(row));
     }
-    d_->ClearSelectionQuietly();
+    d_->SelectQuietly({});
     d_->model.RemoveBlocks(blocks);
   });
   const int next = std::min(blocks.front().first, RowCount() - 1);
@@ -203,7 +213,7 @@ bool CDynamicDataGrid::MoveSelected(BlockMove move) {
   const MovedRows moved = MoveBlocks(RowCount(), SelectedRowBlocks(), move);
   if (!moved.changed) return false;
   d_->ChangeRows([&] {
-    d_->ClearSelectionQuietly();
+    d_->SelectQuietly({});
     d_->model.Reorder(moved.order);
   });
   d_->Select(moved.blocks);
@@ -292,20 +302,28 @@ void CDynamicDataGrid::Private::Select(const RowBlocks& blocks) {
     const QModelIndex bottom = model.index(last, model.Columns() - 1);
     if (top.isValid() && bottom.isValid()) selection.append(QItemSelectionRange(top, bottom));
   }
+  // Rows are often added one after the other: where they are is asked, and scrolled to, once.
+  placesUnknown = true;
   if (!selection.isEmpty()) {
     const int column = std::max(grid.currentIndex().column(), 0);
+    grid.setAutoScroll(false);
     grid.selectionModel()->setCurrentIndex(model.index(selection.front().top(), column),
                                            QItemSelectionModel::NoUpdate);
+    grid.setAutoScroll(true);
+    scrollLater.start();
   }
   // The old selection goes first: Qt compares every old range with every new one.
-  ClearSelectionQuietly();
-  grid.selectionModel()->select(selection, QItemSelectionModel::Select);
-  if (selection.isEmpty()) emit grid.rowSelectionChanged();
+  SelectQuietly({});
+  SelectQuietly(selection);
+  placesUnknown = false;
+  grid.viewport()->update();
+  UpdateActions();
+  emit grid.rowSelectionChanged();
 }
 
-void CDynamicDataGrid::Private::ClearSelectionQuietly() {
+void CDynamicDataGrid::Private::SelectQuietly(const QItemSelection& selection) {
   quiet = true;
-  grid.selectionModel()->clearSelection();
+  grid.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
   quiet = false;
 }
 

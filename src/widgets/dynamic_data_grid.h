@@ -150,6 +150,8 @@ class CDynamicDataGrid : public QTableView, public TableAccess {
   [[nodiscard]] QColor CellBackground(int row, int column) const override;
   [[nodiscard]] QString CellToolTip(int row, int column) const override;
 
+  [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
+
  signals:
   void rowSelectionChanged();
   /// A person's edit was taken and changed the cell. Pasting a block counts as one edit: it is
@@ -170,6 +172,7 @@ class CDynamicDataGrid : public QTableView, public TableAccess {
   void changeEvent(QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& selection) const override;
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 
  private:

@@ -126,6 +126,14 @@ void CDynamicDataGrid::selectionChanged(const QItemSelection& selected,
   emit rowSelectionChanged();
 }
 
+QRect CDynamicDataGrid::visualRect(const QModelIndex& index) const {
+  return d_->placesUnknown ? QRect() : QTableView::visualRect(index);
+}
+
+QRegion CDynamicDataGrid::visualRegionForSelection(const QItemSelection& selection) const {
+  return d_->placesUnknown ? QRegion() : QTableView::visualRegionForSelection(selection);
+}
+
 void CDynamicDataGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
   using Delegate = QAbstractItemDelegate;
   const bool reverts = hint == Delegate::RevertModelCache;

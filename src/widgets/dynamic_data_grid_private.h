@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <QTimer>
 #include <map>
 
 #include "widgets/data_grid_delegate.h"
@@ -29,7 +30,8 @@ struct CDynamicDataGrid::Private {
   template <class Change>
   void ChangeLook(int row, int column, Change change);
   void Select(const RowBlocks& blocks);
-  void ClearSelectionQuietly();
+  /// Without a signal.
+  void SelectQuietly(const QItemSelection& selection);
   [[nodiscard]] bool Allows(RowOperation operation, const RowBlocks& blocks) const;
   void UpdateActions();
   void UpdateRowHeight();
@@ -40,6 +42,7 @@ struct CDynamicDataGrid::Private {
   DataGridDelegate delegate;
   GridRowActions rowActions;
   GridColumnFit columnFit;
+  QTimer scrollLater;
   QAction* paste = nullptr;
   QLabel* corner = nullptr;
   /// From a copied row's id to the id of its source.
@@ -51,6 +54,8 @@ struct CDynamicDataGrid::Private {
   std::function<void(RowOperation)> handler;
   /// The selection changes on the way to another one.
   bool quiet = false;
+  /// Rows have been added, and where they are on the screen is not to be found out yet.
+  bool placesUnknown = false;
   bool editRefused = false;
 };
 

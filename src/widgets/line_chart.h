@@ -14,8 +14,10 @@ namespace GUI {
 /// A technical line chart: series, bands, marker lines and labels on two titled axes, with a
 /// legend, zoom, pan and a cursor that reads values. Everything is reachable by keyboard: Left and
 /// Right move the cursor along a series, Up and Down change the series, with Ctrl they pan; + and -
-/// zoom, Home shows all, Escape hides the cursor. Colors follow the palette; series differ in dash
-/// and marker too.
+/// zoom, Home shows all, Enter clicks the point at the cursor, Escape hides the cursor. The mouse
+/// drags the view, with Shift it zooms into a rectangle; the wheel zooms while the chart has the
+/// focus. Colors follow the palette; series differ in dash and marker too. Until a person zooms or
+/// pans, the view shows all.
 class LineChart : public QWidget {
   Q_OBJECT
 
@@ -51,7 +53,8 @@ class LineChart : public QWidget {
   /// Adds a series and returns its number, counted from 0. Points are drawn in the order of their
   /// x; a NaN breaks the line. An empty name keeps it out of the legend.
   int AddSeries(const QString& name, const QList<QPointF>& points, Style style = Style::kLine);
-  /// Replaces the points of a series; the view and the other series stay as they are.
+  /// Replaces the points of a series. Throws std::out_of_range when there is no such series, as
+  /// Points does.
   void SetPoints(int series, const QList<QPointF>& points);
   [[nodiscard]] QList<QPointF> Points(int series) const;
   [[nodiscard]] int SeriesCount() const;
@@ -94,7 +97,9 @@ class LineChart : public QWidget {
  protected:
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   struct Private;

@@ -52,12 +52,12 @@ class Page : public Framework::ToolPropertyPage {
   static inline int accepts = 1;
 };
 
-constexpr const char* kIn = R"(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
+constexpr const char* kIn = R"xml(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
 <xsl:template match="/"><Inputs><ratio><xsl:value-of select="RunTimeDB/Wheel/@ratio"/></ratio>
-<label><xsl:value-of select="count(RunTimeDB/*)"/></label></Inputs></xsl:template></xsl:stylesheet>)";
-constexpr const char* kOut = R"(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
+<label><xsl:value-of select="count(RunTimeDB/*)"/></label></Inputs></xsl:template></xsl:stylesheet>)xml";
+constexpr const char* kOut = R"xml(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
 <xsl:template match="/RunTimeDB"><RunTimeDB><Wheel ratio="{ModuleOutputs/ratio}"/>
-</RunTimeDB></xsl:template><xsl:template match="RunTimeDB/Wheel"/></xsl:stylesheet>)";
+</RunTimeDB></xsl:template><xsl:template match="RunTimeDB/Wheel"/></xsl:stylesheet>)xml";
 
 class GUIWrapperTest : public testing::Test {
  protected:

@@ -16,7 +16,8 @@ int RunExportCommand(const CommandLine& line) {
   const Session session(line.projects.front());
   RequirePage(line.page);
   const auto& services = ReadPage(session, line.page);
-  std::cout << services.ExportData().ToText(platform::xml::TextForm::kIndented) << std::flush;
+  const auto data = services.ExportData();
+  std::cout << platform::xml::ToText(data.Root(), platform::xml::TextForm::kIndented) << std::flush;
   return kDone;
 }
 

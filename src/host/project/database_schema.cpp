@@ -115,7 +115,7 @@ void DatabaseSchema::Read(const std::string& path) {
   } catch (const platform::FileError& error) {
     throw OstException(error.what());
   } catch (const platform::xml::XmlError& error) {
-    throw OstException(path + ": " + error.what());
+    throw OstException(Located(path, error));
   }
 }
 

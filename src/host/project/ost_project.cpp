@@ -28,12 +28,12 @@ Document ReadProjectFile(const std::filesystem::path& file) {
   } catch (const platform::FileError& error) {
     throw OstException(error.what());
   } catch (const platform::xml::XmlError& error) {
-    throw OstException(file.string() + ": " + error.what());
+    throw OstException(Located(file.string(), error));
   }
 }
 
 [[noreturn]] void Refuse(const std::filesystem::path& file, Element at, const std::string& text) {
-  throw OstException(file.string() + ": line " + std::to_string(at.Line()) + ": " + text);
+  throw OstException(file.string() + ":" + std::to_string(at.Line()) + ": " + text);
 }
 
 }  // namespace

@@ -24,15 +24,14 @@ Document ReadTable(const std::string& path) {
   } catch (const platform::FileError& error) {
     throw OstException(error.what());
   } catch (const platform::xml::XmlError& error) {
-    throw OstException(path + ": " + error.what());
+    throw OstException(Located(path, error));
   }
 }
 
 std::string Required(const std::string& path, Element row, const char* attribute) {
   const auto text = row.Attribute(attribute);
   if (text && !text->empty()) return *text;
-  throw OstException(path + ": line " + std::to_string(row.Line()) + ": a Page without " +
-                     attribute);
+  throw OstException(path + ":" + std::to_string(row.Line()) + ": a Page without " + attribute);
 }
 
 PageTableRow ReadRow(const std::string& path, Element page) {

@@ -68,7 +68,7 @@ struct RunTimeDB::State {
 void RunTimeDB::State::Take(std::string bytes) {
   Document read = Document::Parse(bytes);
   if (read.Root().BaseName() != kRoot) {
-    throw platform::xml::XmlError("the document element is not RunTimeDB", read.Root().Line());
+    throw platform::xml::XmlError("the document element is not RunTimeDB");
   }
   raw.reset();
   if (platform::xml::IsUtf8Source(bytes)) {
@@ -93,7 +93,7 @@ void RunTimeDB::State::Load() {
   } catch (const platform::FileError& error) {
     throw OstException(error.what());
   } catch (const platform::xml::XmlError& error) {
-    throw OstException(file.string() + ": " + error.what());
+    throw OstException(Located(file.string(), error));
   }
 }
 

@@ -34,7 +34,7 @@ std::string DescribeStylesheetFault(const std::string& path) {
     return error.what();
   } catch (const platform::xml::XmlError& error) {
     const std::string text = error.what();
-    return text.starts_with(path) ? text : path + ": " + text;
+    return text.starts_with(path) ? text : Located(path, error);
   }
 }
 

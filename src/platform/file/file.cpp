@@ -3,11 +3,15 @@
 #include "platform/file/file.h"
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
+#include <cstdio>
 #include <cstring>
+#include <random>
 #include <utility>
 
 #include "platform/file/file_error.h"
@@ -28,9 +32,12 @@ namespace fs = std::filesystem;
 /// An open file, closed at the end.
 class Descriptor {
  public:
-  explicit Descriptor(int number) noexcept : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
+  explicit Descriptor(int number = -1) noexcept : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
   ~Descriptor() {
     if (number_ >= 0) ::close(number_);
   }
@@ -88,14 +95,44 @@ fs::path FolderOf(const fs::path& file) {
   return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
 
+/// While it lives, a write past the process's file size limit fails instead of ending the process.
+class SizeLimitAsError {
+ public:
+  SizeLimitAsError() {
+    ::sigemptyset(&signal_);
+    ::sigaddset(&signal_, SIGXFSZ);
+    ::pthread_sigmask(SIG_BLOCK, &signal_, &before_);
+  }
+  SizeLimitAsError(const SizeLimitAsError&) = delete;
+  SizeLimitAsError& operator=(const SizeLimitAsError&) = delete;
+  ~SizeLimitAsError() {
+    constexpr timespec kNow = {};
+    if (::sigismember(&before_, SIGXFSZ) == 0) ::sigtimedwait(&signal_, nullptr, &kNow);
+    ::pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+  }
+
+ private:
+  sigset_t signal_ = {};
+  sigset_t before_ = {};
+};
+
 /// A new file beside the target; gone again unless it was renamed onto it.
 class Replacement {
  public:
-  Replacement(const fs::path& shown, const fs::path& target)
-      : shown_(shown),
-        name_((FolderOf(target) / ("." + target.filename().string() + ".XXXXXX")).string()),
-        file_(::mkostemp(name_.data(), O_CLOEXEC)) {
-    if (!file_.IsOpen()) FailWithErrno("write", shown_);
+  /// Errors name `shown`: the path that the caller gave.
+  Replacement(const fs::path& shown, fs::path target)
+      : shown_(shown), target_(std::move(target)), name_(FreshName(FolderOf(target_))) {
+    struct stat old = {};
+    const bool exists = ::stat(target_.c_str(), &old) == 0;
+    if (exists && !S_ISREG(old.st_mode)) Fail("write", shown_, "it is not a regular file");
+    if (exists && ::faccessat(AT_FDCWD, target_.c_str(), W_OK, AT_EACCESS) != 0)
+      FailWithErrno("write", shown_);
+    file_ = Descriptor(::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!file_.IsOpen()) {
+      name_.clear();
+      FailWithErrno("write", shown_);
+    }
+    if (exists) TakeOwnerAndMode(old);
   }
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
@@ -103,50 +140,46 @@ class Replacement {
     if (!name_.empty()) ::unlink(name_.c_str());
   }
 
-  void TakeMode(const fs::path& target) {
-    struct stat old = {};
-    const bool exists = ::stat(target.c_str(), &old) == 0;
-    if (exists && !S_ISREG(old.st_mode)) Fail("write", shown_, "it is not a regular file");
-    if (exists && ::access(target.c_str(), W_OK) != 0) FailWithErrno("write", shown_);
-    // The group may be one that we cannot give; the mode is what must not be lost.
-    if (exists && ::fchown(file_.Number(), old.st_uid, old.st_gid) != 0) errno = 0;
-    const mode_t mode = exists ? old.st_mode & 07777 : 0666 & ~CreationMask();
-    if (::fchmod(file_.Number(), mode) != 0) FailWithErrno("write", shown_);
-  }
-
   void Write(std::string_view bytes) {
+    const SizeLimitAsError guard;
     while (!bytes.empty()) {
       const ssize_t step = ::write(file_.Number(), bytes.data(), bytes.size());
       if (step < 0 && errno == EINTR) continue;
       if (step < 0) FailWithErrno("write", shown_);
       bytes.remove_prefix(static_cast<std::size_t>(step));
     }
+    if (::fsync(file_.Number()) != 0 || !file_.Close()) FailWithErrno("write", shown_);
   }
 
-  void RenameOnto(const fs::path& target) {
-    if (::fsync(file_.Number()) != 0 || !file_.Close()) FailWithErrno("write", shown_);
-    if (::rename(name_.c_str(), target.c_str()) != 0) FailWithErrno("write", shown_);
+  void RenameOntoTarget() {
+    const Descriptor folder(::open(FolderOf(target_).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.IsOpen()) FailWithErrno("write", shown_);
+    if (::rename(name_.c_str(), target_.c_str()) != 0) FailWithErrno("write", shown_);
     name_.clear();
+    // Some file systems cannot sync a folder: then there is nothing more to do.
+    if (::fsync(folder.Number()) != 0 && errno != EINVAL) FailWithErrno("write", shown_);
   }
 
  private:
-  static mode_t CreationMask() {
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return mask;
+  /// Hidden, and short enough beside a target with a name of any length.
+  static fs::path FreshName(const fs::path& folder) {
+    std::random_device random;
+    char name[32];
+    std::snprintf(name, sizeof name, ".sysdef-%08x%08x", random(), random());
+    return folder / name;
+  }
+
+  void TakeOwnerAndMode(const struct stat& old) {
+    // Another's file may be ours to replace but not to give back; its mode is what must stay.
+    if (::fchown(file_.Number(), old.st_uid, old.st_gid) != 0) errno = 0;
+    if (::fchmod(file_.Number(), old.st_mode & 07777) != 0) FailWithErrno("write", shown_);
   }
 
   const fs::path& shown_;
-  std::string name_;
+  fs::path target_;
+  fs::path name_;
   Descriptor file_;
 };
-
-void SyncFolder(const fs::path& folder, const fs::path& shown) {
-  const Descriptor open(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  // Some network file systems cannot sync a folder: then there is nothing more to do.
-  if (!open.IsOpen() || (::fsync(open.Number()) != 0 && errno != EINVAL))
-    FailWithErrno("write", shown);
-}
 
 }  // namespace
 
@@ -163,12 +196,9 @@ std::optional<std::string> ReadFile(const fs::path& path, std::size_t limit) {
 }
 
 void WriteFileAtomically(const fs::path& path, std::string_view bytes) {
-  const fs::path target = FollowLinks(path);
-  Replacement replacement(path, target);
-  replacement.TakeMode(target);
+  Replacement replacement(path, FollowLinks(path));
   replacement.Write(bytes);
-  replacement.RenameOnto(target);
-  SyncFolder(FolderOf(target), path);
+  replacement.RenameOntoTarget();
 }
 
 }  // namespace platform

@@ -17,7 +17,9 @@ namespace platform {
 
 /// Replaces the file's content as one step: a reader, and a reader after a crash, sees the old or
 /// the new bytes whole. On return the bytes and the folder's entry are on the disk. A symbolic
-/// link stays one, the file's mode is kept. Throws FileError, the old file then stands unchanged.
+/// link stays one, the file's mode is kept, a file that may not be written is not replaced. Throws
+/// FileError: the old file then stands unchanged (but where the folder could not be brought to the
+/// disk after the step, the new one stands).
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace platform

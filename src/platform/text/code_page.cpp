@@ -36,8 +36,7 @@ bool IsUtf8(std::string_view bytes) noexcept {
   return true;
 }
 
-std::string ToUtf8(std::string_view bytes) {
-  if (IsUtf8(bytes)) return std::string(bytes);
+std::string Windows1252ToUtf8(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 4);
   for (const char c : bytes) {
@@ -45,6 +44,10 @@ std::string ToUtf8(std::string_view bytes) {
     AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte);
   }
   return text;
+}
+
+std::string ToUtf8(std::string_view bytes) {
+  return IsUtf8(bytes) ? std::string(bytes) : Windows1252ToUtf8(bytes);
 }
 
 }  // namespace platform

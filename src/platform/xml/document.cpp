@@ -6,12 +6,14 @@
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
+#include <algorithm>
+#include <climits>
 #include <new>
 
-#include "platform/text/utf8.h"
 #include "platform/xml/library.h"
 #include "platform/xml/limits.h"
 #include "platform/xml/names.h"
+#include "platform/xml/source_text.h"
 #include "platform/xml/xml_error.h"
 
 namespace platform::xml {
@@ -51,13 +53,17 @@ Document Document::Adopt(_xmlDoc* tree) {
 }
 
 Document Document::Parse(std::string_view bytes, const ReadLimits& limits) {
-  CheckLimits(bytes, limits);
+  if (bytes.size() > std::min<std::size_t>(limits.bytes, INT_MAX))
+    throw XmlError("the document is longer than " + std::to_string(limits.bytes) + " bytes");
+  const SourceText source(bytes);
+  CheckLimits(source.View(), limits);
   ErrorCollector errors;
   const auto context = NewContext();
-  xmlDoc* tree = xmlCtxtReadMemory(context.get(), bytes.data(), static_cast<int>(bytes.size()),
-                                   nullptr, nullptr, XML_PARSE_NONET | XML_PARSE_BIG_LINES);
+  xmlDoc* tree =
+      xmlCtxtReadMemory(context.get(), source.View().data(), static_cast<int>(source.View().size()),
+                        nullptr, nullptr, XML_PARSE_NONET | XML_PARSE_BIG_LINES);
   Document document = Adopt(tree);
-  // A prefix without a namespace is reported, but not by the result.
+  // A prefix without a namespace is reported, but the tree is returned all the same.
   if (tree == nullptr || !errors.Text().empty())
     throw XmlError(errors.Message("the document cannot be read"), errors.Line());
   return document;
@@ -89,12 +95,7 @@ Document Document::Clone() const {
 }
 
 bool IsXmlText(std::string_view text) noexcept {
-  while (!text.empty()) {
-    const char32_t point = TakeCodePoint(text);
-    const bool isControl = point < 0x20 && point != '\t' && point != '\n' && point != '\r';
-    if (isControl || point == 0xFFFE || point == 0xFFFF || point == kNoCodePoint) return false;
-  }
-  return true;
+  return FirstForbidden(text) == std::string_view::npos;
 }
 
 }  // namespace platform::xml

@@ -16,6 +16,7 @@ namespace platform::xml {
 /// Bounds on what is read. A document past one of them is refused with its own message.
 struct ReadLimits {
   std::size_t bytes = 256u << 20;
+  /// Elements, attributes, comments and instructions together; each takes some 250 bytes.
   std::size_t elements = 12'000'000;
   std::size_t attributesPerElement = 256;
 };
@@ -28,8 +29,9 @@ class Document {
   /// A document without a document element.
   Document();
 
-  /// Reads a document from bytes. Nothing outside the bytes is ever opened, a document type
-  /// declaration is refused, and so is what exceeds the limits or libxml2's own depth of 256.
+  /// Reads a document from bytes in UTF-8, or in Windows-1252 where its declaration says that or
+  /// ISO-8859-1. Nothing outside the bytes is ever opened, a document type declaration is refused,
+  /// and so is what exceeds the limits or a depth of 256. White space between elements is kept.
   /// Throws XmlError "LINE: MESSAGE" where the fault has a line.
   static Document Parse(std::string_view bytes, const ReadLimits& limits = {});
 
@@ -42,7 +44,9 @@ class Document {
   /// A deep copy with a tree of its own.
   [[nodiscard]] Document Clone() const;
   /// The document as UTF-8 text. Indented: an XML declaration, two blanks a level, a line end at
-  /// the end. Bare: no declaration and no white space of our own.
+  /// the end; white space that stands between elements already is kept in place of ours, and what
+  /// holds text beside elements is written as it is. Bare: no declaration and no white space of
+  /// our own.
   [[nodiscard]] std::string ToText(TextForm form) const;
 
   [[nodiscard]] _xmlDoc* Handle() const noexcept { return tree_.get(); }

@@ -43,6 +43,38 @@ xmlNode* Append(xmlNode* parent, xmlNode* child) {
   return child;
 }
 
+/// "PREFIX:BASE" in its two parts; no prefix without a colon.
+struct Name {
+  explicit Name(std::string_view name) : base(name) {
+    const auto colon = name.find(':');
+    if (colon == name.npos) return;
+    prefix = name.substr(0, colon);
+    base = name.substr(colon + 1);
+  }
+  std::string prefix;
+  std::string_view base;
+};
+
+xmlAttr* FindAttribute(const xmlNode* element, std::string_view name) {
+  if (element == nullptr || element->type != XML_ELEMENT_NODE) return nullptr;
+  const Name wanted(name);
+  xmlAttr* each = element->properties;
+  while (each != nullptr &&
+         (View(each->name) != wanted.base ||
+          View(each->ns == nullptr ? nullptr : each->ns->prefix) != wanted.prefix))
+    each = each->next;
+  return each;
+}
+
+/// The namespace a prefix stands for at that element; for no prefix the default one, or null.
+xmlNs* NamespaceOf(xmlNode* element, const std::string& prefix) {
+  xmlNs* ns =
+      xmlSearchNs(element->doc, element, prefix.empty() ? nullptr : BAD_CAST prefix.c_str());
+  if (ns == nullptr && !prefix.empty())
+    throw XmlError("the prefix \"" + prefix + "\" is not declared");
+  return ns;
+}
+
 bool IsPlainText(const xmlNode* node) {
   return node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE;
 }
@@ -64,7 +96,7 @@ std::string Element::Text() const {
 }
 
 std::optional<std::string> Element::Attribute(const char* name) const {
-  const xmlAttr* attribute = node_ == nullptr ? nullptr : xmlHasProp(node_, BAD_CAST name);
+  const xmlAttr* attribute = FindAttribute(node_, name);
   if (attribute == nullptr) return std::nullopt;
   return Take(xmlNodeListGetString(node_->doc, attribute->children, 1));
 }
@@ -98,9 +130,13 @@ Element Element::Child(std::string_view baseName) const noexcept {
 }
 
 void Element::SetAttribute(const char* name, std::string_view value) {
+  Require(node_);
   CheckName(name);
   CheckText(value);
-  if (xmlSetProp(Require(node_), BAD_CAST name, BAD_CAST std::string(value).c_str()) == nullptr)
+  const Name parts(name);
+  xmlNs* ns = parts.prefix.empty() ? nullptr : NamespaceOf(node_, parts.prefix);
+  const xmlChar* base = BAD_CAST parts.base.data();
+  if (xmlSetNsProp(node_, ns, base, BAD_CAST std::string(value).c_str()) == nullptr)
     throw std::bad_alloc();
 }
 
@@ -121,7 +157,9 @@ void Element::SetText(std::string_view text) {
 Element Element::AppendElement(const char* name) {
   Require(node_);
   CheckName(name);
-  return Element(Append(node_, xmlNewDocNode(node_->doc, nullptr, BAD_CAST name, nullptr)));
+  const Name parts(name);
+  xmlNs* ns = NamespaceOf(node_, parts.prefix);
+  return Element(Append(node_, xmlNewDocNode(node_->doc, ns, BAD_CAST parts.base.data(), nullptr)));
 }
 
 Element Element::AppendCopy(Element source) {

@@ -20,10 +20,11 @@ class Element {
   explicit operator bool() const noexcept { return node_ != nullptr; }
   bool operator==(const Element&) const = default;
 
-  /// The name with its prefix, and without.
+  /// The name without its prefix.
   [[nodiscard]] std::string_view BaseName() const noexcept;
   /// The text of the element and its descendants.
   [[nodiscard]] std::string Text() const;
+  /// A name without a prefix finds the attribute without a namespace.
   [[nodiscard]] std::optional<std::string> Attribute(const char* name) const;
   /// The attribute's text, or the given one when it is absent.
   [[nodiscard]] std::string Attribute(const char* name, std::string_view otherwise) const;
@@ -36,7 +37,9 @@ class Element {
   /// The first child element of that base name, or null.
   [[nodiscard]] Element Child(std::string_view baseName) const noexcept;
 
-  /// Text that XML cannot carry throws XmlError and changes nothing.
+  /// These throw XmlError, and change nothing, for text that XML cannot carry, for what is no XML
+  /// name or has a prefix that is not declared, and on a null handle. An element without a prefix
+  /// joins the default namespace where there is one.
   void SetAttribute(const char* name, std::string_view value);
   void SetText(std::string_view text);
   Element AppendElement(const char* name);

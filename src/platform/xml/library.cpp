@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "platform/text/number.h"
+#include "platform/xml/run_meter.h"
 
 namespace platform::xml {
 namespace {
@@ -46,6 +47,13 @@ __attribute__((format(printf, 2, 3))) void OnPrinted(void*, const char* format, 
   current->AddPrinted(piece);
 }
 
+/// libxslt's messages often begin with the name of its function.
+std::string_view WithoutFunction(std::string_view line) {
+  const auto colon = line.find(": ");
+  const bool isNamed = line.starts_with("xslt") && colon != line.npos;
+  return isNamed ? line.substr(colon + 2) : line;
+}
+
 /// These two are the thread's own in libxml2.
 void ListenOnThisThread() {
   xmlSetStructuredErrorFunc(nullptr, OnStructured);
@@ -57,6 +65,7 @@ void ListenOnThisThread() {
 void PrepareLibraries() {
   static std::once_flag once;
   std::call_once(once, [] {
+    RunMeter::Install();
     xmlInitParser();
     xmlSetExternalEntityLoader(DenyEntity);
     xsltInit();
@@ -80,7 +89,7 @@ ErrorCollector::~ErrorCollector() { current = outer_; }
 ErrorCollector* ErrorCollector::Current() noexcept { return current; }
 
 std::string ErrorCollector::Message(std::string_view otherwise) const {
-  if (text_.empty()) return std::string(otherwise);
+  if (text_.empty()) return said_.empty() ? std::string(otherwise) : said_;
   return line_ > 0 ? std::to_string(line_) + ": " + text_ : text_;
 }
 
@@ -93,30 +102,44 @@ void ErrorCollector::Settle(std::string text, long line) {
 
 void ErrorCollector::Add(const _xmlError& error) {
   if (error.level < XML_ERR_ERROR) return;
-  Take(error.message != nullptr ? error.message : "unknown error", error.line);
+  std::string text = OneLine(error.message != nullptr ? error.message : "unknown error");
+  if (error.domain == XML_FROM_XPATH && error.str1 != nullptr) text += ": " + OneLine(error.str1);
+  Take(std::move(text), error.line);
 }
 
 void ErrorCollector::AddPrinted(std::string_view piece) {
   printed_ += piece;
   for (auto end = printed_.find('\n'); end != std::string::npos; end = printed_.find('\n')) {
-    const std::string line = printed_.substr(0, end);
+    AddPrintedLine(std::string_view(printed_).substr(0, end));
     printed_.erase(0, end + 1);
-    // The libraries tell the place first: "compilation error: file NAME line 3 element sort".
-    const bool isPlace = line.find("error") != std::string::npos &&
-                         (line.find(": file ") != std::string::npos ||
-                          line.find(": element ") != std::string::npos || line.ends_with("error"));
-    const auto at = line.rfind(" line ");
-    if (isPlace)
-      printedLine_ = at == std::string::npos ? 0 : LeadingInteger(line.substr(at + 6));
-    else
-      Take(line, std::exchange(printedLine_, 0));
   }
 }
 
-void ErrorCollector::Take(std::string_view line, long number) {
-  if (!text_.empty() || settled_) return;
-  text_ = OneLine(line);
-  line_ = number;
+void ErrorCollector::AddPrintedLine(std::string_view line) {
+  // "compilation error: file NAME line 3 element sort", "runtime error: element sort", "error".
+  const auto colon = line.find("error: ");
+  const bool isPlace = line == "error" || line == "runtime error" || line == "compilation error" ||
+                       (colon != line.npos && (line.substr(colon + 7).starts_with("file ") ||
+                                               line.substr(colon + 7).starts_with("element ")));
+  if (isPlace) {
+    const auto at = line.rfind(" line ");
+    place_ = at == line.npos ? 0 : LeadingInteger(line.substr(at + 6));
+    knowsPlace_ = true;
+  } else if (std::exchange(knowsPlace_, false)) {
+    Take(OneLine(WithoutFunction(line)), place_);
+  } else {
+    said_ = OneLine(line);
+  }
+}
+
+void ErrorCollector::Take(std::string text, long line) {
+  if (settled_) return;
+  if (text_.empty())
+    text_ = std::move(text);
+  else if (line_ > 0)
+    return;
+  // XPath knows no line; libxslt's own words that follow do.
+  line_ = line;
 }
 
 std::string OneLine(std::string_view text) {

@@ -25,7 +25,8 @@ class ErrorCollector {
   [[nodiscard]] const std::string& Text() const noexcept { return text_; }
   /// The first fault's line; 0 when it has none.
   [[nodiscard]] long Line() const noexcept { return line_; }
-  /// "LINE: TEXT", or TEXT without a line, or `otherwise` when nothing was reported.
+  /// "LINE: TEXT", or TEXT without a line; without a fault what a stylesheet said last itself, or
+  /// else `otherwise`.
   [[nodiscard]] std::string Message(std::string_view otherwise) const;
 
   /// Makes this the fault, whatever the libraries said or will say.
@@ -38,14 +39,18 @@ class ErrorCollector {
   static ErrorCollector* Current() noexcept;
 
  private:
-  void Take(std::string_view line, long number);
+  void AddPrintedLine(std::string_view line);
+  void Take(std::string text, long line);
 
   ErrorCollector* outer_;
   std::string text_;
   long line_ = 0;
   bool settled_ = false;
+  std::string said_;
+  // Of what libxslt prints: a line without its end yet, and the place that the next line is about.
   std::string printed_;
-  long printedLine_ = 0;
+  bool knowsPlace_ = false;
+  long place_ = 0;
 };
 
 /// The text with every line end and run of blanks around it as one blank.

@@ -8,10 +8,13 @@ namespace platform::xml {
 
 struct ReadLimits;
 
-/// Refuses, before anything is parsed, what libxml2 would take long or much memory to refuse:
-/// throws XmlError for bytes past the limits on size, elements and attributes per element, and for
-/// an encoding that does not spell markup as ASCII does. Agrees with the parser on every document
-/// up to its first fault.
-void CheckLimits(std::string_view bytes, const ReadLimits& limits);
+/// Refuses, before anything is parsed, what libxml2 would spend long or much memory on: more
+/// elements, attributes or namespaces than the limits, endless comments. Throws XmlError with the
+/// line. The text is UTF-8 that XML can carry.
+///
+/// What is counted holds for the parser also where the text is not well formed, although that goes
+/// on behind a fault: markup begins at every '<' outside of comments, character data sections and
+/// instructions, and those end where the parser ends them.
+void CheckLimits(std::string_view text, const ReadLimits& limits);
 
 }  // namespace platform::xml

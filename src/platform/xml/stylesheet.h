@@ -37,6 +37,8 @@ class Processor {
   [[nodiscard]] const std::string& Error() const noexcept { return error_; }
 
  private:
+  Document Run(const Document& input);
+
   Stylesheet stylesheet_;
   Document input_;
   Document output_;

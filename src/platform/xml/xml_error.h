@@ -21,4 +21,9 @@ class XmlError : public std::runtime_error {
   long line_;
 };
 
+/// The fault of a file on one line: "FILE:LINE: MESSAGE", or "FILE: MESSAGE" without a line.
+[[nodiscard]] inline std::string Located(const std::string& file, const XmlError& error) {
+  return file + (error.Line() > 0 ? ":" : ": ") + error.what();
+}
+
 }  // namespace platform::xml

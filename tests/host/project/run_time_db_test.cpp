@@ -157,7 +157,7 @@ TEST(RunTimeDB, DamagedFilesAreRefusedInOneLineThatNamesThem) {
       const RunTimeDB database(file);
       ADD_FAILURE() << "opened: " << bytes;
     } catch (const OstException& error) {
-      EXPECT_THAT(error.what(), HasSubstr(file.string() + ": "));
+      EXPECT_THAT(error.what(), HasSubstr(file.string() + ":"));
       EXPECT_EQ(std::string(error.what()).find('\n'), std::string::npos);
     }
   }

@@ -25,9 +25,9 @@ FreqBinData Bin(std::uint32_t minCount, std::uint32_t maxCount) {
 
 TEST(Coverage, FindsHolesAndSharedCounts) {
   const std::vector<FreqBinData> table{Bin(200, kLastCount), Bin(150, 120), Bin(100, 199),
-                                       Bin(50, 100),         Bin(60, 70),   Bin(10, 40)};
+                                       Bin(50, 100),         Bin(60, 70),   Bin(2, 40)};
   const Coverage coverage = CoverageOf(table);
-  EXPECT_THAT(coverage.unserved, ElementsAre(CountSpan{1, 9}, CountSpan{41, 49}));
+  EXPECT_THAT(coverage.unserved, ElementsAre(CountSpan{1, 1}, CountSpan{41, 49}));
   EXPECT_THAT(coverage.shared,
               ElementsAre(SharedSpan{{60, 70}, 4, 3}, SharedSpan{{100, 100}, 2, 3}));
   EXPECT_THAT(CoverageOf({}).unserved, ElementsAre(CountSpan{1, kLastCount}));

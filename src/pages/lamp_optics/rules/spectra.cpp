@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#include "pages/lamp_optics/rules/spectra.h"
+
+#include <algorithm>
+
+namespace lamp_optics {
+namespace {
+
+using spectral_curve::Curve;
+using spectral_curve::Point;
+
+/// Reads a curve at wavelengths that rise from call to call and lie within the curve.
+class Follower {
+ public:
+  explicit Follower(const Curve& curve) : curve_(curve) {}
+
+  double At(double wavelength) {
+    while (next_ < curve_.size() && curve_[next_].wavelength < wavelength) ++next_;
+    const Point& right = curve_[next_];
+    if (right.wavelength == wavelength) return right.value;
+    const Point& left = curve_[next_ - 1];
+    const double share = (wavelength - left.wavelength) / (right.wavelength - left.wavelength);
+    return left.value + share * (right.value - left.value);
+  }
+
+ private:
+  const Curve& curve_;
+  std::size_t next_ = 0;
+};
+
+std::vector<double> CommonWavelengths(const Curve& a, const Curve& b) {
+  const double low = std::max(a.front().wavelength, b.front().wavelength);
+  const double high = std::min(a.back().wavelength, b.back().wavelength);
+  std::vector<double> wavelengths;
+  for (const Curve* curve : {&a, &b}) {
+    const auto middle = static_cast<std::ptrdiff_t>(wavelengths.size());
+    for (const Point& point : *curve) {
+      if (point.wavelength >= low && point.wavelength <= high) {
+        wavelengths.push_back(point.wavelength);
+      }
+    }
+    std::inplace_merge(wavelengths.begin(), wavelengths.begin() + middle, wavelengths.end());
+  }
+  wavelengths.erase(std::unique(wavelengths.begin(), wavelengths.end()), wavelengths.end());
+  return wavelengths;
+}
+
+}  // namespace
+
+Curve CurveOf(std::span<const SpectralPoint> points) {
+  Curve curve;
+  curve.reserve(points.size());
+  for (const SpectralPoint& point : points) {
+    curve.push_back({static_cast<double>(point.Wavelength), point.Value});
+  }
+  std::ranges::stable_sort(curve, {}, &Point::wavelength);
+  const auto doubled = std::ranges::unique(curve, {}, &Point::wavelength);
+  curve.erase(doubled.begin(), doubled.end());
+  return curve;
+}
+
+Curve Product(const Curve& a, const Curve& b) {
+  Curve product;
+  if (a.empty() || b.empty()) return product;
+  Follower left(a);
+  Follower right(b);
+  for (const double wavelength : CommonWavelengths(a, b)) {
+    product.push_back({wavelength, left.At(wavelength) * right.At(wavelength)});
+  }
+  return product;
+}
+
+}  // namespace lamp_optics
