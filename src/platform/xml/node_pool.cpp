@@ -13,16 +13,28 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <mutex>
 
 namespace platform::xml {
 namespace {
 
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kIsSanitized = true;
+#elif defined(__has_feature)
+constexpr bool kIsSanitized = __has_feature(address_sanitizer);
+#else
+constexpr bool kIsSanitized = false;
+#endif
+
 constexpr std::size_t kSlotBytes = 128;
-constexpr std::size_t kBlockBytes = 2u << 20;  // a large page
+constexpr std::size_t kBlockBytes = 2u << 20;
 constexpr std::size_t kSlotsPerBlock = kBlockBytes / kSlotBytes;
 constexpr std::size_t kBlocks = 8192;
 constexpr std::size_t kReserved = kBlocks * kBlockBytes;
+/// A large page at hand takes a quarter of a millisecond, a block in small pages one.
+constexpr double kSlowSeconds = 0.002;
+constexpr std::size_t kBlocksAfterSlow = 64;
 
 static_assert(sizeof(xmlNode) <= kSlotBytes && sizeof(xmlNode) > kSlotBytes - 16);
 
@@ -49,6 +61,12 @@ struct Block {
   std::uint32_t fresh = 0;   // slots from this one on were never taken
   Block* nextWithRoom = nullptr;
 };
+
+double ThreadSeconds() noexcept {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
 
 /// Slots of one size in blocks of one reserved range of addresses, so that the address alone says
 /// whether a slot is the pool's.
@@ -106,14 +124,20 @@ class Pool {
     return withRoom_;
   }
 
-  /// The first block fills page by page: most programs never need a second one.
+  /// The first block fills page by page: most programs never need a second one. The others come at
+  /// once, in a large page as long as the system has those at hand. Where it must make room for
+  /// one first, that costs more than it saves, and the next blocks do without.
   void Populate(const Block& block) noexcept {
     if (&block == blocks_.data()) return;
     void* memory = reinterpret_cast<void*>(AddressOf(block));
-    madvise(memory, kBlockBytes, MADV_HUGEPAGE);
-#ifdef MADV_POPULATE_WRITE
+    const double start = ThreadSeconds();
+    if (inSmallPages_ == 0) madvise(memory, kBlockBytes, MADV_HUGEPAGE);
     madvise(memory, kBlockBytes, MADV_POPULATE_WRITE);
-#endif
+    if (inSmallPages_ > 0) {
+      --inSmallPages_;
+    } else if (ThreadSeconds() - start > kSlowSeconds) {
+      inSmallPages_ = kBlocksAfterSlow;
+    }
   }
 
   /// A block that had been used in large part goes back to the system; its addresses stay.
@@ -128,6 +152,7 @@ class Pool {
   SpinLock lock_;
   std::uintptr_t first_ = 0;
   std::size_t begun_ = 0;
+  std::size_t inSmallPages_ = 0;  // so many blocks more
   Block* withRoom_ = nullptr;
   std::array<Block, kBlocks> blocks_;
 };
@@ -162,9 +187,8 @@ char* Duplicate(const char* text) { return strdup(text); }
 }  // namespace
 
 void PoolNodes() {
-#if !defined(__SANITIZE_ADDRESS__)
-  if (pool.Reserve()) xmlMemSetup(Free, Allocate, Reallocate, Duplicate);
-#endif
+  // The address sanitizer sees what malloc hands out, and nothing smaller.
+  if (!kIsSanitized && pool.Reserve()) xmlMemSetup(Free, Allocate, Reallocate, Duplicate);
 }
 
 }  // namespace platform::xml
