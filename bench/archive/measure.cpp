@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cerrno>
+#include <ctime>
 #include <fstream>
 #include <stdexcept>
 #include <system_error>
@@ -35,6 +36,12 @@ PeakMemory::PeakMemory() {
 std::size_t PeakMemory::Rise() const {
   const std::size_t peak = Status("VmHWM:");
   return peak > before_ ? peak - before_ : 0;
+}
+
+double ProcessorSeconds() {
+  timespec now{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
 }
 
 std::string FromChild(const std::function<std::string()>& make) {

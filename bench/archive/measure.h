@@ -4,7 +4,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -27,6 +26,10 @@ class PeakMemory {
 /// What `make` returns, made in a child process: this one's heap stays as it was.
 [[nodiscard]] std::string FromChild(const std::function<std::string()>& make);
 
+/// What this process has used of the processor, the kernel's part included. On a machine that
+/// others use too it varies far less than the wall clock.
+[[nodiscard]] double ProcessorSeconds();
+
 /// Times `work` once a pass, alone: what it returns is kept until the clock is read. The state's
 /// counter "peak" is how far memory rose meanwhile.
 template <class Work>
@@ -34,10 +37,9 @@ void Measure(benchmark::State& state, Work work) {
   for (auto pass : state) {
     (void)pass;
     const PeakMemory peak;
-    const auto start = std::chrono::steady_clock::now();
+    const double start = ProcessorSeconds();
     auto result = work();
-    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-    state.SetIterationTime(time.count());
+    state.SetIterationTime(ProcessorSeconds() - start);
     state.counters["peak"] = static_cast<double>(peak.Rise());
     benchmark::DoNotOptimize(result);
   }

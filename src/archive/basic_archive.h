@@ -107,7 +107,8 @@ class zel_basic_iarchive {
   class_record& pointed_class(long long id, const zel_basic_pointer_iserializer& own);
   void load_description(class_record& record);
   void remember(object_record& object);
-  object_record& make(const zel_basic_iserializer& serializer, ownership owner);
+  object_record& make(const zel_basic_iserializer& serializer, const extended_type_info& wanted,
+                      ownership owner);
   loaded_pointer hand_out(object_record& object, const extended_type_info& wanted, ownership owner);
 
   xml_iarchive& archive_;

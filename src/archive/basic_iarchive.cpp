@@ -25,6 +25,11 @@ void require_attribute(bool is_there) {
   if (!is_there) throw xml_archive_exception(xml_archive_exception::missing_attribute);
 }
 
+/// The object as a `wanted`; null when it is none that is known of.
+void* as(const extended_type_info& wanted, void* object, const zel_basic_iserializer& serializer) {
+  return export_registry::instance().upcast(object, serializer.type().type(), wanted.type());
+}
+
 const zel_basic_iserializer& exported_serializer(const std::string& key) {
   if (key.size() > kLongestKey) fail(archive_exception::invalid_class_name);
   const exported_class* found = export_registry::instance().find_key(key);
@@ -150,26 +155,28 @@ zel_basic_iarchive::class_record& zel_basic_iarchive::pointed_class(
 }
 
 zel_basic_iarchive::object_record& zel_basic_iarchive::make(const zel_basic_iserializer& serializer,
+                                                            const extended_type_info& wanted,
                                                             ownership owner) {
   const zel_basic_pointer_iserializer* maker = serializer.pointer_serializer();
-  if (maker == nullptr) fail(archive_exception::unregistered_class);
-  object_record& record = known().records.emplace_back();
-  record.object = maker->create();
-  if (record.object == nullptr) {
-    known().records.pop_back();
-    fail(archive_exception::unregistered_class);
+  void* object = maker != nullptr ? maker->create() : nullptr;
+  if (object == nullptr) fail(archive_exception::unregistered_class);
+  if (as(wanted, object, serializer) == nullptr) {
+    maker->destroy(object);
+    fail(archive_exception::unregistered_cast);
   }
+  object_record& record = known().records.emplace_back();
+  record.object = object;
   record.serializer = &serializer;
   record.maker = maker;
   record.owner = owner;
-  if (owner == ownership::shared) record.shared = maker->share(record.object);
+  if (owner == ownership::shared) record.shared = maker->share(object);
   return record;
 }
 
 zel_basic_iarchive::loaded_pointer zel_basic_iarchive::load_pointer(
     const extended_type_info& wanted, const zel_basic_pointer_iserializer& own, ownership owner) {
   if (!has_class_info()) {
-    object_record& made = make(own.serializer(), owner);
+    object_record& made = make(own.serializer(), wanted, owner);
     made.serializer->load_object_data(archive_, made.object, 0);
     return hand_out(made, wanted, owner);
   }
@@ -184,7 +191,7 @@ zel_basic_iarchive::loaded_pointer zel_basic_iarchive::load_pointer(
     return hand_out(known().object(archive_.load_info(class_info::object_id_reference)), wanted,
                     owner);
   }
-  object_record& made = make(*record.serializer, owner);
+  object_record& made = make(*record.serializer, wanted, owner);
   if (record.is_tracked) remember(made);
   made.serializer->load_object_data(archive_, made.object, record.version);
   return hand_out(made, wanted, owner);
@@ -193,8 +200,7 @@ zel_basic_iarchive::loaded_pointer zel_basic_iarchive::load_pointer(
 zel_basic_iarchive::loaded_pointer zel_basic_iarchive::hand_out(object_record& object,
                                                                 const extended_type_info& wanted,
                                                                 ownership owner) {
-  void* as_wanted = export_registry::instance().upcast(
-      object.object, object.serializer->type().type(), wanted.type());
+  void* as_wanted = as(wanted, object.object, *object.serializer);
   if (as_wanted == nullptr) fail(archive_exception::unregistered_cast);
   if (owner == ownership::caller) return {as_wanted, {}};
   const bool is_owned_elsewhere =

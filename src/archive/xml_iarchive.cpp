@@ -15,10 +15,17 @@ namespace {
 constexpr std::size_t kDeepest = 256;
 /// How much of a refused text an exception says.
 constexpr std::size_t kShownText = 80;
-/// Once a collection counts more entries than it has elements, what is still read is bounded: so
-/// many children looked at for each element of the document, and so many besides.
-constexpr std::size_t kStepsPerElement = 32;
-constexpr std::size_t kStepsBesides = 65'536;
+/// So much text costs as much as one child that is looked at.
+constexpr std::size_t kTextPerStep = 64;
+
+/// Once a collection counts more entries than it has elements, all that is still read is bounded:
+/// by so many steps for what the document holds, and so many besides.
+std::size_t most_work(_xmlNode* root) {
+  constexpr std::size_t kStepsPerElement = 32;
+  constexpr std::size_t kStepsBesides = 65'536;
+  const cursor::Extent extent = cursor::ExtentOf(root);
+  return extent.elements * kStepsPerElement + extent.textBytes / kTextPerStep + kStepsBesides;
+}
 
 }  // namespace
 
@@ -102,7 +109,9 @@ std::string_view xml_iarchive::text() {
 }
 
 std::string_view xml_iarchive::text_of(_xmlNode* element) {
-  return cursor::Text(element, scratch_);
+  const std::string_view text = cursor::Text(element, scratch_);
+  steps_ += text.size() / kTextPerStep;
+  return text;
 }
 
 std::size_t xml_iarchive::load_count() {
@@ -118,10 +127,9 @@ std::size_t xml_iarchive::load_count() {
 // first ones. A forged count must not turn that into endless work or memory.
 void xml_iarchive::borrow(unsigned long long entries) {
   if (most_steps_ == std::numeric_limits<std::size_t>::max()) {
-    const std::size_t elements = cursor::CountElements(cursor::Root(source_.Handle()));
-    most_steps_ = steps_ + elements * kStepsPerElement + kStepsBesides;
+    most_steps_ = steps_ + most_work(cursor::Root(source_.Handle()));
   }
-  if (entries > most_steps_ - steps_) {
+  if (steps_ > most_steps_ || entries > most_steps_ - steps_) {
     refuse_text(stack_.back().element, "count " + std::to_string(entries));
   }
   steps_ += entries;

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <limits>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "archive/basic_archive.h"
@@ -12,6 +14,7 @@
 #include "archive/iserializer.h"
 #include "archive/number_text.h"
 #include "archive/nvp.h"
+#include "archive/smart_pointer.h"
 #include "archive/text_type.h"
 #include "platform/xml/document.h"
 
@@ -103,7 +106,9 @@ class xml_iarchive final : public zel_basic_iarchive {
   template <class T>
   void load_content(T& value) {
     if constexpr (std::is_pointer_v<T>) {
-      load_pointer_value(value);
+      value = load_as<std::remove_pointer_t<T>>(ownership::caller).first;
+    } else if constexpr (smart_pointer<T>::is_one) {
+      load_smart_pointer(value);
     } else if constexpr (std::is_array_v<T>) {
       serialization<T>::load(*this, value, 0);
     } else if (has_class_info()) {
@@ -114,12 +119,24 @@ class xml_iarchive final : public zel_basic_iarchive {
   }
 
   template <class T>
-  void load_pointer_value(T*& pointer) {
+  std::pair<T*, std::shared_ptr<void>> load_as(ownership owner) {
     static_assert(std::is_class_v<T>, "Only objects of classes are serialized by pointer.");
-    const loaded_pointer loaded =
-        load_pointer(extended_type_info_typeid<T>::instance(),
-                     zel_pointer_iserializer<xml_iarchive, T>::at_load, ownership::caller);
-    pointer = static_cast<T*>(loaded.object);
+    loaded_pointer loaded = load_pointer(extended_type_info_typeid<T>::instance(),
+                                         zel_pointer_iserializer<xml_iarchive, T>::at_load, owner);
+    return {static_cast<T*>(loaded.object), std::move(loaded.shared)};
+  }
+
+  template <class Pointer>
+  void load_smart_pointer(Pointer& pointer) {
+    using T = typename Pointer::element_type;
+    static_assert(!std::is_polymorphic_v<T> || std::has_virtual_destructor_v<T>,
+                  "A smart pointer to a polymorphic class needs its virtual destructor.");
+    if constexpr (smart_pointer<Pointer>::is_shared) {
+      auto [object, shared] = load_as<T>(ownership::shared);
+      pointer = Pointer(std::move(shared), object);
+    } else {
+      pointer.reset(load_as<T>(ownership::unique).first);
+    }
   }
 
   template <class T>
@@ -168,7 +185,7 @@ class xml_iarchive final : public zel_basic_iarchive {
   std::vector<frame> stack_;
   unsigned library_version_ = 1;
   std::string scratch_;
-  std::size_t steps_ = 0;  // children looked at so far
+  std::size_t steps_ = 0;  // what was looked at so far, bounded by the next
   std::size_t most_steps_ = std::numeric_limits<std::size_t>::max();
 };
 

@@ -12,6 +12,7 @@
 #include "archive/number_text.h"
 #include "archive/nvp.h"
 #include "archive/oserializer.h"
+#include "archive/smart_pointer.h"
 #include "archive/text_type.h"
 #include "platform/xml/document.h"
 #include "platform/xml/sax_writer.h"
@@ -87,6 +88,8 @@ class xml_oarchive final : public zel_basic_oarchive {
       save_leaf(name, text_type<Plain>::to_utf8(value));
     } else if constexpr (std::is_pointer_v<Plain>) {
       save_pointer_value(name, value);
+    } else if constexpr (smart_pointer<Plain>::is_one) {
+      save_pointer_value(name, value.get());
     } else {
       save_start(name);
       save_object(const_cast<Plain&>(value));

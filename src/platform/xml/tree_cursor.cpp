@@ -59,12 +59,15 @@ std::size_t CountChildren(const _xmlNode* parent, std::size_t most) noexcept {
   return count;
 }
 
-std::size_t CountElements(const _xmlNode* root) noexcept {
-  std::size_t count = 0;
+Extent ExtentOf(const _xmlNode* root) noexcept {
+  Extent extent;
   for (const xmlNode* node = root; node != nullptr; node = Next(node, root)) {
-    if (node->type == XML_ELEMENT_NODE) ++count;
+    if (node->type == XML_ELEMENT_NODE) ++extent.elements;
+    if (HoldsText(node) && node->content != nullptr) {
+      extent.textBytes += std::strlen(Chars(node->content));
+    }
   }
-  return count;
+  return extent;
 }
 
 std::string_view Text(const _xmlNode* element, std::string& scratch) {

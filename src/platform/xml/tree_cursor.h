@@ -31,8 +31,13 @@ struct Found {
 [[nodiscard]] bool HasBaseName(const _xmlNode* element, const char* name) noexcept;
 /// How many child elements there are, counted no further than `most`.
 [[nodiscard]] std::size_t CountChildren(const _xmlNode* parent, std::size_t most) noexcept;
-/// How many elements the tree below `root` has, itself among them.
-[[nodiscard]] std::size_t CountElements(const _xmlNode* root) noexcept;
+
+/// How much a tree holds, its root among it.
+struct Extent {
+  std::size_t elements = 0;
+  std::size_t textBytes = 0;
+};
+[[nodiscard]] Extent ExtentOf(const _xmlNode* root) noexcept;
 
 /// The text of the element and its descendants; it stands in the tree or, when it is in pieces,
 /// in `scratch`.
