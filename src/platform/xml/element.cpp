@@ -68,9 +68,12 @@ xmlAttr* FindAttribute(const xmlNode* element, std::string_view name) {
 
 /// The namespace a prefix stands for at that element; for no prefix the default one, or null.
 xmlNs* NamespaceOf(xmlNode* element, const std::string& prefix) {
-  xmlNs* ns =
-      xmlSearchNs(element->doc, element, prefix.empty() ? nullptr : BAD_CAST prefix.c_str());
-  if (ns == nullptr && !prefix.empty())
+  // What has no prefix itself stands in the default one.
+  const bool isDefault = element->ns == nullptr || element->ns->prefix == nullptr;
+  if (prefix.empty() && isDefault) return element->ns;
+  const xmlChar* wanted = prefix.empty() ? nullptr : BAD_CAST prefix.c_str();
+  xmlNs* ns = xmlSearchNs(element->doc, element, wanted);
+  if (ns == nullptr && wanted != nullptr)
     throw XmlError("the prefix \"" + prefix + "\" is not declared");
   return ns;
 }
@@ -163,10 +166,10 @@ Element Element::AppendElement(const char* name) {
 }
 
 Element Element::AppendCopy(Element source) {
+  Require(node_);
   Require(source.node_);
-  xmlNode* copy = Append(Require(node_), xmlDocCopyNode(source.node_, node_->doc, 1));
-  xmlReconciliateNs(node_->doc, copy);
-  return Element(copy);
+  // This also declares at the copy what it takes of namespaces from around the source.
+  return Element(Append(node_, xmlDocCopyNode(source.node_, node_->doc, 1)));
 }
 
 void Element::Remove() noexcept {

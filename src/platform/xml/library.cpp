@@ -75,6 +75,7 @@ void PrepareLibraries() {
     ForbidAll(preferences);
     xsltSetDefaultSecurityPrefs(preferences);
     xsltSetGenericErrorFunc(nullptr, OnPrinted);
+    ListenOnThisThread();
   });
 }
 

@@ -51,6 +51,15 @@ bool IsWhiteSpace(const xmlNode* node) {
          Chars(node->content)[std::strspn(Chars(node->content), " \t\r\n")] == '\0';
 }
 
+/// libxml2 keeps an ampersand in a namespace's name, and only there, as it reads it from "&amp;".
+std::string NamespaceName(const xmlNs& ns) {
+  constexpr std::string_view kAmpersand = "&#38;";
+  std::string name = Chars(ns.href);
+  for (auto at = name.find(kAmpersand); at != name.npos; at = name.find(kAmpersand, at + 1))
+    name.replace(at, kAmpersand.size(), "&");
+  return name;
+}
+
 bool PreservesSpace(const xmlNode* element) {
   for (const xmlAttr* a = element->properties; a != nullptr; a = a->next)
     if (a->ns != nullptr && xmlStrEqual(a->name, BAD_CAST "space") &&
@@ -159,7 +168,7 @@ class Writer {
 
   void Namespace(const xmlNs& ns) {
     Put({ns.prefix == nullptr ? " xmlns" : " xmlns:", Chars(ns.prefix), "=\""});
-    Escaped(Chars(ns.href), kInAttribute);
+    Escaped(NamespaceName(ns).c_str(), kInAttribute);
     text_ += '"';
   }
 
