@@ -94,7 +94,6 @@ Form Form::Tab(const QString& text) const {
   RequireReach(*bar, name);
   if (!bar->isTabEnabled(tab))
     throw AutomationError(QStringLiteral("\"%1\" is disabled").arg(name));
-  GiveFocus(*bar, Qt::MouseFocusReason);
   bar->setCurrentIndex(tab);
   Settle();
   QWidget* page = CurrentTabPage(*bar);

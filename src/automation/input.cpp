@@ -64,9 +64,11 @@ void Settle() { QCoreApplication::processEvents(); }
 void GiveFocus(QWidget& widget, Qt::FocusReason reason) {
   const QPointer<QWidget> target = widget.focusProxy() ? widget.focusProxy() : &widget;
   if (target->hasFocus() || FocusedByHand() == target) return;
-  target->window()->activateWindow();
-  Settle();
-  if (!target) return;
+  if (!target->window()->isActiveWindow()) {
+    target->window()->activateWindow();
+    Settle();
+    if (!target) return;
+  }
   EndFocusByHand(reason);
   if (target) target->setFocus(reason);
   // In an active window a field that refused its text may have taken the focus back.

@@ -25,6 +25,12 @@ bool RowHidden(const QAbstractItemView& view, int row) {
   return list != nullptr && list->isRowHidden(row);
 }
 
+/// The usual case, in which a row need not be searched.
+bool ShowsAllRows(const QAbstractItemView& view) {
+  const auto* table = qobject_cast<const QTableView*>(&view);
+  return table && table->model() && !table->verticalHeader()->sectionsHidden();
+}
+
 bool ColumnShown(const QAbstractItemView& view, int column) {
   if (const auto* table = qobject_cast<const QTableView*>(&view))
     return !table->isColumnHidden(column);
@@ -76,9 +82,13 @@ std::vector<int> ItemViewTable::ShownColumns() const {
   return columns;
 }
 
+QModelIndex ItemViewTable::First(int row) const {
+  return ShowsAllRows(view_) ? view_.model()->index(row, 0, view_.rootIndex())
+                             : ShownRows().at(static_cast<std::size_t>(row));
+}
+
 QModelIndex ItemViewTable::Index(int row, int column) const {
-  const QModelIndex first = ShownRows().at(static_cast<std::size_t>(row));
-  return first.siblingAtColumn(ShownColumns().at(static_cast<std::size_t>(column)));
+  return First(row).siblingAtColumn(ShownColumns().at(static_cast<std::size_t>(column)));
 }
 
 std::optional<Control> ItemViewTable::CellWidget(const QModelIndex& index) const {
@@ -92,7 +102,10 @@ QString ItemViewTable::CellName(const QModelIndex& index) const {
   return QStringLiteral("%1, row %2, column %3").arg(name_).arg(index.row()).arg(index.column());
 }
 
-int ItemViewTable::TableRows() const { return static_cast<int>(ShownRows().size()); }
+int ItemViewTable::TableRows() const {
+  return ShowsAllRows(view_) ? view_.model()->rowCount(view_.rootIndex())
+                             : static_cast<int>(ShownRows().size());
+}
 
 int ItemViewTable::TableColumns() const { return static_cast<int>(ShownColumns().size()); }
 
@@ -118,7 +131,6 @@ QWidget& ItemViewTable::OpenEditor(const QModelIndex& index) {
     widgets.removeIf([](const QWidget* widget) { return !widget->isVisible(); });
     return widgets;
   };
-  GiveFocus(view_, Qt::MouseFocusReason);
   view_.scrollTo(index);
   view_.setCurrentIndex(index);
   const QWidgetList before = shown();
@@ -177,7 +189,6 @@ void ItemViewTable::ToggleCell(int row, int column) {
   if (auto widget = CellWidget(index)) return widget->Click();
   if (!index.data(Qt::CheckStateRole).isValid())
     throw AutomationError(QStringLiteral("\"%1\" cannot be checked").arg(CellName(index)));
-  GiveFocus(view_, Qt::MouseFocusReason);
   view_.setCurrentIndex(index);
   PressKey(view_, Qt::Key_Space, {}, " ");
 }
@@ -185,7 +196,6 @@ void ItemViewTable::ToggleCell(int row, int column) {
 void ItemViewTable::ClickCell(int row, int column) {
   const QModelIndex index = Index(row, column);
   if (auto widget = CellWidget(index)) return widget->Click();
-  GiveFocus(view_, Qt::MouseFocusReason);
   view_.scrollTo(index);
   ClickAt(*view_.viewport(), view_.visualRect(index).center());
 }
@@ -197,7 +207,6 @@ void ItemViewTable::SelectBlocks(const Blocks& blocks) {
   if (mode == QAbstractItemView::NoSelection ||
       (many && mode == QAbstractItemView::SingleSelection))
     throw AutomationError(QStringLiteral("\"%1\" does not let these rows be selected").arg(name_));
-  GiveFocus(view_, Qt::MouseFocusReason);
   const int lastColumn = TableColumns() - 1;
   QItemSelection selection;
   for (const auto& [first, last] : blocks)
@@ -231,7 +240,7 @@ bool ItemViewTable::CellEditable(int row, int column) const {
 
 bool ItemViewTable::RowEnabled(int row) const {
   const std::vector<int> columns = ShownColumns();
-  const QModelIndex first = ShownRows().at(static_cast<std::size_t>(row));
+  const QModelIndex first = First(row);
   return view_.isEnabled() && std::any_of(columns.begin(), columns.end(), [&](int column) {
            return first.siblingAtColumn(column).flags().testFlag(Qt::ItemIsEnabled);
          });

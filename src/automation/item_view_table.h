@@ -12,7 +12,8 @@
 namespace automation {
 
 /// Works one of Qt's item views as a table. Hidden rows and columns do not count; a tree's rows
-/// are those that are unfolded, in the order they stand. The caller sees to it that cells exist.
+/// are those that are unfolded, in the order they stand. The caller sees to it that cells exist,
+/// and that the view has the focus before it is clicked.
 class ItemViewTable : public TableAccess {
  public:
   /// The view outlives the table; `name` is what errors call it.
@@ -37,6 +38,8 @@ class ItemViewTable : public TableAccess {
  private:
   [[nodiscard]] std::vector<QModelIndex> ShownRows() const;
   [[nodiscard]] std::vector<int> ShownColumns() const;
+  /// The first cell of a row, its column hidden or not.
+  [[nodiscard]] QModelIndex First(int row) const;
   [[nodiscard]] QModelIndex Index(int row, int column) const;
   /// A widget that always stands in the cell, as a control of its own.
   [[nodiscard]] std::optional<Control> CellWidget(const QModelIndex& index) const;

@@ -44,8 +44,18 @@ TableAccess& Table::At(int row, int column) const {
                             .arg(columns));
 }
 
-void Table::RequireReachable(int row) const {
+void Table::Reach() const {
   RequireReach(*widget_, name_);
+  if ((widget_->focusPolicy() & Qt::ClickFocus) == 0) return;
+  GiveFocus(*widget_, Qt::MouseFocusReason);
+  // Leaving another field may have changed what can be reached.
+  (void)Access();
+  RequireReach(*widget_, name_);
+}
+
+void Table::Reach(int row) const {
+  Reach();
+  RequireRow(row);
   if (!Access().RowEnabled(row))
     throw AutomationError(QStringLiteral("row %2 of \"%1\" is disabled").arg(name_).arg(row));
 }
@@ -54,7 +64,7 @@ QString Table::Cell(int row, int column) const { return At(row, column).CellText
 
 void Table::SetCell(int row, int column, const QString& text) {
   TableAccess& access = At(row, column);
-  RequireReachable(row);
+  Reach(row);
   if (!access.CellEditable(row, column)) {
     throw AutomationError(
         QStringLiteral("cell (%2, %3) of \"%1\" cannot be edited").arg(name_).arg(row).arg(column));
@@ -71,14 +81,14 @@ bool Table::Checked(int row, int column) const { return At(row, column).CellChec
 
 void Table::Toggle(int row, int column) {
   TableAccess& access = At(row, column);
-  RequireReachable(row);
+  Reach(row);
   access.ToggleCell(row, column);
   Settle();
 }
 
 void Table::ClickCell(int row, int column) {
   TableAccess& access = At(row, column);
-  RequireReachable(row);
+  Reach(row);
   access.ClickCell(row, column);
   Settle();
 }
@@ -95,7 +105,7 @@ void Table::Select(const TableAccess::Blocks& blocks) {
     }
   }
   TableAccess& access = Access();
-  RequireReach(*widget_, name_);
+  Reach();
   access.SelectBlocks(blocks);
   Settle();
 }

@@ -6,7 +6,6 @@
 #include <QString>
 #include <QStringList>
 #include <QWidget>
-#include <functional>
 #include <memory>
 
 #include "host/gui/table_access.h"
@@ -53,8 +52,9 @@ class Table {
   void RequireRow(int row) const;
   /// The table when it has that cell.
   [[nodiscard]] TableAccess& At(int row, int column) const;
-  /// The table when a person could work on that row now.
-  void RequireReachable(int row) const;
+  /// What every click into a row begins with: the table can be reached and takes the focus.
+  void Reach(int row) const;
+  void Reach() const;
 
   QPointer<QWidget> widget_;
   QString name_;

@@ -207,7 +207,8 @@ TEST_F(ScriptRunnerTest, NamesTheLineOfWhatGoesWrong) {
 }
 
 TEST_F(ScriptRunnerTest, RunsFiles) {
-  const std::string file = folder_.Write("run.js", "\xEF\xBB\xBF\nprint('f\xFCr')\nx.y").string();
+  const std::string file =
+      folder_.Write("my größe.js", "\xEF\xBB\xBF\nprint('f\xFCr')\nx.y").string();
   EXPECT_EQ(runner_.Run(file), file + ":3: x is not defined");
   EXPECT_EQ(printed_.str(), "für\n");
   const std::string missing = (folder_.Path() / "missing.js").string();

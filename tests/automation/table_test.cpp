@@ -94,8 +94,11 @@ TEST_F(TableTest, CountsTheUnfoldedRowsOfATree) {
 
 TEST_F(TableTest, WorksATableThroughItsOwnAccess) {
   const test::Grid* grid = window_.grid;
+  form_.GetControl("Width (mm)").Type("9");
+  (void)window_.TakeEvents();
   grid_.SetCell(1, 0, "new");
   EXPECT_EQ(grid_.Cell(1, 0), "new");
+  EXPECT_EQ(window_.TakeEvents(), QStringList{"left 3.009"}) << "the table takes the focus";
   grid_.Toggle(3, 0);
   EXPECT_TRUE(grid_.Checked(3, 0));
   grid_.ClickCell(0, 1);

@@ -12,7 +12,10 @@ namespace test {
 /// A table of its own making: two columns, row 2 disabled, column 1 cannot be edited.
 class Grid : public QFrame, public TableAccess {
  public:
-  explicit Grid(QWidget* parent) : QFrame(parent) { setMinimumSize(20, 20); }
+  explicit Grid(QWidget* parent) : QFrame(parent) {
+    setMinimumSize(20, 20);
+    setFocusPolicy(Qt::StrongFocus);
+  }
 
   [[nodiscard]] int TableRows() const override { return 4; }
   [[nodiscard]] int TableColumns() const override { return 2; }
