@@ -38,6 +38,8 @@ std::size_t FirstForbidden(std::string_view text) noexcept {
   while (!rest.empty()) {
     if (rest.size() >= 8 && ArePlain(rest.data()))
       rest.remove_prefix(8);
+    else if (static_cast<signed char>(rest.front()) >= ' ')
+      rest.remove_prefix(1);
     else if (IsForbidden(TakeCodePoint(rest)))
       return text.size() - rest.size();
   }

@@ -3,7 +3,7 @@
 #include "platform/xml/node_pool.h"
 
 #include <libxml/tree.h>
-#include <libxml/xmlmemory.h>
+#include <malloc.h>
 #include <sys/mman.h>
 
 #include <algorithm>
@@ -16,7 +16,7 @@
 #include <ctime>
 #include <mutex>
 
-namespace platform::xml {
+namespace platform::xml::node_pool {
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -72,18 +72,18 @@ double ThreadSeconds() noexcept {
 /// whether a slot is the pool's.
 class Pool {
  public:
-  /// False where the system refuses the addresses; the pool is then empty for ever.
-  bool Reserve() noexcept {
+  /// Where the system refuses the addresses, the pool stays empty.
+  void Reserve() noexcept {
     void* range = mmap(nullptr, kReserved + kBlockBytes, PROT_READ | PROT_WRITE,
                        MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-    if (range == MAP_FAILED) return false;
+    if (range == MAP_FAILED) return;
     const auto address = reinterpret_cast<std::uintptr_t>(range);
     first_ = (address + kBlockBytes - 1) / kBlockBytes * kBlockBytes;
-    return true;
+    reserved_ = kReserved;
   }
 
   [[nodiscard]] bool Owns(const void* memory) const noexcept {
-    return reinterpret_cast<std::uintptr_t>(memory) - first_ < kReserved;
+    return reinterpret_cast<std::uintptr_t>(memory) - first_ < reserved_;
   }
 
   /// Null when all blocks are full.
@@ -119,7 +119,7 @@ class Pool {
   }
 
   Block* NextBlock() noexcept {
-    if (first_ == 0 || begun_ == kBlocks) return nullptr;
+    if (reserved_ == 0 || begun_ == kBlocks) return nullptr;
     withRoom_ = &blocks_[begun_++];
     return withRoom_;
   }
@@ -151,6 +151,7 @@ class Pool {
 
   SpinLock lock_;
   std::uintptr_t first_ = 0;
+  std::size_t reserved_ = 0;
   std::size_t begun_ = 0;
   std::size_t inSmallPages_ = 0;  // so many blocks more
   Block* withRoom_ = nullptr;
@@ -163,17 +164,19 @@ bool IsNodeSized(std::size_t bytes) noexcept {
   return bytes <= kSlotBytes && bytes > kSlotBytes - 16;
 }
 
-void* Allocate(std::size_t bytes) {
+}  // namespace
+
+void Prepare() noexcept {
+  // The address sanitizer sees what malloc hands out, and nothing smaller.
+  if (!kIsSanitized) pool.Reserve();
+}
+
+void* Allocate(std::size_t bytes) noexcept {
   void* memory = IsNodeSized(bytes) ? pool.Take() : nullptr;
   return memory != nullptr ? memory : std::malloc(bytes);
 }
 
-void Free(void* memory) {
-  if (pool.Owns(memory)) return pool.GiveBack(memory);
-  std::free(memory);
-}
-
-void* Reallocate(void* memory, std::size_t bytes) {
+void* Reallocate(void* memory, std::size_t bytes) noexcept {
   if (!pool.Owns(memory)) return std::realloc(memory, bytes);
   void* moved = std::malloc(bytes);
   if (moved == nullptr) return nullptr;
@@ -182,13 +185,13 @@ void* Reallocate(void* memory, std::size_t bytes) {
   return moved;
 }
 
-char* Duplicate(const char* text) { return strdup(text); }
-
-}  // namespace
-
-void PoolNodes() {
-  // The address sanitizer sees what malloc hands out, and nothing smaller.
-  if (!kIsSanitized && pool.Reserve()) xmlMemSetup(Free, Allocate, Reallocate, Duplicate);
+void Free(void* memory) noexcept {
+  if (pool.Owns(memory)) return pool.GiveBack(memory);
+  std::free(memory);
 }
 
-}  // namespace platform::xml
+std::size_t SizeOf(void* memory) noexcept {
+  return pool.Owns(memory) ? kSlotBytes : malloc_usable_size(memory);
+}
+
+}  // namespace platform::xml::node_pool

@@ -3,12 +3,12 @@
 #include "platform/xml/run_meter.h"
 
 #include <libxml/xmlmemory.h>
-#include <malloc.h>
 #include <time.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <utility>
+
+#include "platform/xml/node_pool.h"
 
 namespace platform::xml {
 namespace {
@@ -27,11 +27,14 @@ std::chrono::nanoseconds ThreadTime() {
   return std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
 }
 
-long long SizeOf(void* block) { return static_cast<long long>(malloc_usable_size(block)); }
+long long SizeOf(void* block) { return static_cast<long long>(node_pool::SizeOf(block)); }
 
 }  // namespace
 
-void RunMeter::Install() { xmlMemSetup(Free, Allocate, Reallocate, Duplicate); }
+void RunMeter::Install() {
+  node_pool::Prepare();
+  xmlMemSetup(Free, Allocate, Reallocate, Duplicate);
+}
 
 RunMeter::RunMeter(std::size_t bytes, std::chrono::nanoseconds work,
                    std::function<void(const char*)> stop)
@@ -60,25 +63,25 @@ void RunMeter::Stop(const char* what) {
 }
 
 void* RunMeter::Allocate(std::size_t size) {
-  if (meter == nullptr) return std::malloc(size);
+  if (meter == nullptr) return node_pool::Allocate(size);
   if (!meter->Admit(size)) return nullptr;
-  void* block = std::malloc(size);
+  void* block = node_pool::Allocate(size);
   meter->held_ += SizeOf(block);
   return block;
 }
 
 void* RunMeter::Reallocate(void* block, std::size_t size) {
-  if (meter == nullptr) return std::realloc(block, size);
+  if (meter == nullptr) return node_pool::Reallocate(block, size);
   if (!meter->Admit(size)) return nullptr;
   const long long before = SizeOf(block);
-  void* moved = std::realloc(block, size);
+  void* moved = node_pool::Reallocate(block, size);
   if (moved != nullptr) meter->held_ += SizeOf(moved) - before;
   return moved;
 }
 
 void RunMeter::Free(void* block) {
   if (meter != nullptr) meter->held_ -= SizeOf(block);
-  std::free(block);
+  node_pool::Free(block);
 }
 
 char* RunMeter::Duplicate(const char* text) {

@@ -21,24 +21,6 @@ namespace {
   throw XmlError(std::string(what) + " \"" + std::string(name) + '"');
 }
 
-/// True when all bytes are printable ASCII, which is nearly all there is; eight at a time.
-bool IsPlainAscii(std::string_view text) noexcept {
-  constexpr std::uint64_t kOnes = 0x0101010101010101u;
-  constexpr std::uint64_t kHighs = 0x8080808080808080u;
-  const char* at = text.data();
-  std::size_t left = text.size();
-  for (; left >= 8; at += 8, left -= 8) {
-    std::uint64_t word = 0;
-    std::memcpy(&word, at, 8);
-    // With no high bit in the word, subtracting 0x20 from each byte borrows only below blank.
-    if (((word | (word - kOnes * 0x20)) & kHighs) != 0) return false;
-  }
-  for (; left > 0; ++at, --left) {
-    if (static_cast<signed char>(*at) < 0x20) return false;
-  }
-  return true;
-}
-
 /// The longest text libxml2 reads back.
 constexpr std::size_t kLongestText = 10'000'000;
 
@@ -80,7 +62,7 @@ xmlChar* TextPlace(xmlNode* node, std::size_t bytes) {
 SaxWriter::SaxWriter(Document target) : target_(std::move(target)) {}
 
 bool SaxWriter::CanCarry(std::string_view text) noexcept {
-  return text.size() <= kLongestText && (IsPlainAscii(text) || IsXmlText(text));
+  return text.size() <= kLongestText && IsXmlText(text);
 }
 
 std::string SaxWriter::OpenPath() const { return cursor::Path(open_); }
