@@ -64,7 +64,7 @@ const std::vector<Room>& Rooms() {
 const std::vector<std::pair<std::string, std::string>> kHomes = {
     {"libxml/", "platform/xml/"},    {"libxslt/", "platform/xml/"},
     {"libexslt/", "platform/xml/"},  {"zlib.h", "platform/filters/"},
-    {"sodium", "platform/filters/"}, {"qcustomplot.h", "widgets/line_chart.cpp"},
+    {"sodium", "platform/filters/"}, {"qcustomplot.h", "widgets/chart_plot.cpp"},
 };
 
 bool IsUnder(std::string_view path, std::string_view folder) {
@@ -172,7 +172,7 @@ TEST(IncludeFloors, EveryKindOfWrongArrowIsFound) {
       {"model/a.h", Including({"host/project/a.h", "host/data/a.h"})},
       {"framework/a.h", Including({"widgets/a.h", "host/gui/a.h"})},
       {"widgets/a.h", Including({"automation/a.h", "qcustomplot.h"})},
-      {"widgets/line_chart.cpp", Including({"qcustomplot.h", "widgets/rules/a.h"})},
+      {"widgets/chart_plot.cpp", Including({"qcustomplot.h", "widgets/rules/a.h"})},
       {"widgets/rules/a.h", Including({"widgets/a.h", "QKeyEvent", "platform/xml/a.h"})},
       {"automation/a.h", Including({"framework/a.h", "host/gui/a.h", "QJSEngine"})},
       {"pages/lamp/a.h", Including({"pages/wheel/a.h", "pages/lamp/rules/a.h", "tool/a.h"})},
@@ -195,7 +195,7 @@ TEST(IncludeFloors, EveryKindOfWrongArrowIsFound) {
           "host/gui/a.h: model/a.h: not for host/gui", "model/a.h: host/project/a.h: not for model",
           "framework/a.h: widgets/a.h: not for framework",
           "widgets/a.h: automation/a.h: not for widgets",
-          "widgets/a.h: qcustomplot.h: only for widgets/line_chart.cpp",
+          "widgets/a.h: qcustomplot.h: only for widgets/chart_plot.cpp",
           "widgets/rules/a.h: widgets/a.h: not for widgets/rules",
           "widgets/rules/a.h: QKeyEvent: no Qt in widgets/rules",
           "automation/a.h: framework/a.h: not for automation",
