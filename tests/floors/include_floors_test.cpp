@@ -64,7 +64,7 @@ const std::vector<Room>& Rooms() {
 const std::vector<std::pair<std::string, std::string>> kHomes = {
     {"libxml/", "platform/xml/"},    {"libxslt/", "platform/xml/"},
     {"libexslt/", "platform/xml/"},  {"zlib.h", "platform/filters/"},
-    {"sodium", "platform/filters/"}, {"qcustomplot.h", "widgets/line_chart.cpp"},
+    {"sodium", "platform/filters/"}, {"qcustomplot.h", "widgets/chart_plot.cpp"},
 };
 
 bool IsUnder(std::string_view path, std::string_view folder) {
