@@ -61,6 +61,11 @@ void DrawLines(QPainter& painter, const QStyleOptionViewItem& option) {
   painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
 }
 
+void Disable(QStyleOption& option) {
+  option.state &= ~QStyle::State_Enabled;
+  option.palette.setCurrentColorGroup(QPalette::Disabled);
+}
+
 QStyle& StyleOf(const QStyleOptionViewItem& option) {
   return option.widget ? *option.widget->style() : *QApplication::style();
 }
@@ -125,7 +130,7 @@ void DataGridDelegate::PaintBox(QPainter& painter, const QStyleOptionViewItem& o
   box.palette.setColor(QPalette::Window, Mixed(option.palette.color(QPalette::Base),
                                                option.palette.color(QPalette::Text), 0.6));
   box.state = option.state & ~(QStyle::State_HasFocus | QStyle::State_Selected);
-  if (!model_.IsChangeable(index.row(), index.column())) box.state &= ~QStyle::State_Enabled;
+  if (!model_.IsChangeable(index.row(), index.column())) Disable(box);
   box.state |= model_.IsChecked(index.row(), index.column()) ? QStyle::State_On : QStyle::State_Off;
   StyleOf(option).drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, option.widget);
 }
@@ -139,7 +144,7 @@ void DataGridDelegate::PaintButton(QPainter& painter, const QStyleOptionViewItem
   button.text = index.data().toString();
   button.state = option.state & ~(QStyle::State_HasFocus | QStyle::State_Selected);
   button.state |= pressed_ == index ? QStyle::State_Sunken : QStyle::State_Raised;
-  if (model_.IsReadOnly()) button.state &= ~QStyle::State_Enabled;
+  if (model_.IsReadOnly()) Disable(button);
   StyleOf(option).drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
 }
 
