@@ -19,7 +19,7 @@ constexpr auto kFlags = zel::archive::flags::kPageTransfer;
 Document Stored(Waveforms& data) {
   Document document;
   zel::archive::xml_oarchive archive(document, kFlags);
-  archive << nvp("Inputs", data);
+  archive << nvp(kElement, data);
   archive.Finish();
   return document;
 }
@@ -27,7 +27,7 @@ Document Stored(Waveforms& data) {
 Waveforms Loaded(const Document& document) {
   Waveforms data;
   zel::archive::xml_iarchive archive(document, kFlags);
-  archive >> nvp("Inputs", data);
+  archive >> nvp(kElement, data);
   return data;
 }
 

@@ -14,41 +14,53 @@ namespace {
 
 // The same data again: cereal would take our classes' own serialize for one of its own.
 struct CerealPulse {
-  Pulse data;
+  int version = 0;
+  bool isPulse = false;
+  std::string segment;
+  double amplitude = 0;
+  double leadEdge = 0;
+  double trailEdge = 0;
+  double width = 0;
   template <class Archive>
   void serialize(Archive& ar) {
-    ar(cereal::make_nvp("m_versionnum", data.version), cereal::make_nvp("m_IsPulse", data.isPulse),
-       cereal::make_nvp("m_strCWSeg", data.segment), cereal::make_nvp("m_Amp", data.amplitude),
-       cereal::make_nvp("m_LeadEdge", data.leadEdge),
-       cereal::make_nvp("m_TrailEdge", data.trailEdge), cereal::make_nvp("m_Width", data.width));
+    ar(cereal::make_nvp("m_versionnum", version), cereal::make_nvp("m_IsPulse", isPulse),
+       cereal::make_nvp("m_strCWSeg", segment), cereal::make_nvp("m_Amp", amplitude),
+       cereal::make_nvp("m_LeadEdge", leadEdge), cereal::make_nvp("m_TrailEdge", trailEdge),
+       cereal::make_nvp("m_Width", width));
   }
 };
 
-struct CerealBallast {
-  Ballast data;
+struct CerealAttributes {
+  int uartFlag = 0;
+  int makerCode = 0;
+  int waveformIndex = 0;
+  bool isEnabled = false;
+  double pulseLength = 0;
+  int ratio = 0;
+  std::vector<std::string> spokes;
   template <class Archive>
   void serialize(Archive& ar) {
-    ar(cereal::make_nvp("UART", data.uart), cereal::make_nvp("BallastMakerCode", data.makerCode),
-       cereal::make_nvp("BallastWaveform", data.waveform),
-       cereal::make_nvp("Compensates", data.compensates),
-       cereal::make_nvp("PulseRatio", data.pulseRatio),
-       cereal::make_nvp("PulseLength", data.pulseLength));
+    ar(cereal::make_nvp("UARTFlag", uartFlag), cereal::make_nvp("BallastMakerCode", makerCode),
+       cereal::make_nvp("BallastWaveformIndex", waveformIndex),
+       cereal::make_nvp("CompensationEnabled", isEnabled),
+       cereal::make_nvp("PulseLength", pulseLength), cereal::make_nvp("PulsePlateauRatio", ratio),
+       cereal::make_nvp("SpokePulses", spokes));
   }
 };
 
 struct CerealWaveform {
   std::string title;
   std::string wheel;
-  CerealBallast ballast;
+  CerealAttributes attributes;
   std::vector<CerealPulse> pulses;
   template <class Archive>
   void serialize(Archive& ar) {
     ar(cereal::make_nvp("WaveFormTitle", title), cereal::make_nvp("CWType", wheel),
-       cereal::make_nvp("Attributes", ballast), cereal::make_nvp("VecPulses", pulses));
+       cereal::make_nvp("Attributes", attributes), cereal::make_nvp("VecPulses", pulses));
   }
 };
 
-struct CerealList {
+struct CerealEntry {
   std::string group;
   double spinFactor = 0;
   std::vector<CerealWaveform> waveforms;
@@ -59,24 +71,33 @@ struct CerealList {
   }
 };
 
-struct CerealWaveforms {
-  std::vector<CerealList> lists;
-  bool applyDarkPulse = false;
-  template <class Archive>
-  void serialize(Archive& ar) {
-    ar(cereal::make_nvp("LampWaveformDB", lists),
-       cereal::make_nvp("ApplyVIDarkPulse", applyDarkPulse));
-  }
-};
+using CerealWaveforms = std::vector<CerealEntry>;
+
+CerealPulse Mirror(const PulseInfo& pulse) {
+  return {pulse.m_versionnum, pulse.m_IsPulse,   pulse.m_strCWSeg, pulse.m_Amp,
+          pulse.m_LeadEdge,   pulse.m_TrailEdge, pulse.m_Width};
+}
+
+CerealWaveform Mirror(const LampWaveFormData& waveform) {
+  const LampWaveform& own = waveform.Attributes;
+  CerealWaveform mirror{waveform.WaveFormTitle, waveform.CWType, {}, {}};
+  mirror.attributes = {own.GetUARTFlag(),
+                       own.GetBallastMakerCode(),
+                       own.GetBallastWaveformIndex(),
+                       own.CompensationEnabled,
+                       own.PulseLength,
+                       own.PulsePlateauRatio,
+                       {}};
+  for (const PulseInfo& pulse : waveform.VecPulses) mirror.pulses.push_back(Mirror(pulse));
+  return mirror;
+}
 
 CerealWaveforms Mirror(const Waveforms& data) {
-  CerealWaveforms mirror{{}, data.applyDarkPulse};
-  for (const WaveformList& list : data.lists) {
-    CerealList& made = mirror.lists.emplace_back(CerealList{list.group, list.spinFactor, {}});
-    for (const Waveform& each : list.waveforms) {
-      CerealWaveform& waveform =
-          made.waveforms.emplace_back(CerealWaveform{each.title, each.wheel, {each.ballast}, {}});
-      for (const Pulse& pulse : each.pulses) waveform.pulses.push_back({pulse});
+  CerealWaveforms mirror;
+  for (const LampWaveFormDB& entry : data) {
+    mirror.push_back({entry.SeqGrpName, entry.SpinFactor, {}});
+    for (const LampWaveFormData& each : entry.LWData) {
+      mirror.back().waveforms.push_back(Mirror(each));
     }
   }
   return mirror;
@@ -88,7 +109,7 @@ std::ostringstream Stored(const CerealWaveforms& data) {
     // The archive writes the text when it is destroyed.
     cereal::XMLOutputArchive archive(
         text, cereal::XMLOutputArchive::Options().indent(false).outputType(false));
-    archive(cereal::make_nvp("Inputs", data));
+    archive(cereal::make_nvp(kElement, data));
   }
   return text;
 }
@@ -97,7 +118,7 @@ CerealWaveforms Loaded(const std::string& text) {
   std::istringstream stream(text);
   CerealWaveforms data;
   cereal::XMLInputArchive archive(stream);
-  archive(cereal::make_nvp("Inputs", data));
+  archive(cereal::make_nvp(kElement, data));
   return data;
 }
 

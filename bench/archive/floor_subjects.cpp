@@ -23,7 +23,7 @@ using Tree = std::unique_ptr<xmlDoc, decltype(&xmlFreeDoc)>;
 Document StoredTree(Waveforms& data) {
   Document document;
   zel::archive::xml_oarchive archive(document, zel::archive::flags::kPageTransfer);
-  archive << zel::archive::nvp("Inputs", data);
+  archive << zel::archive::nvp(kElement, data);
   archive.Finish();
   return document;
 }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: The System Definition developers
+#include <array>
 #include <charconv>
-#include <cstdio>
+#include <cstdint>
 #include <pugixml.hpp>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "measure.h"
 #include "subjects.h"
@@ -43,46 +46,51 @@ void Put(pugi::xml_node parent, const char* name, int value) {
   Put(parent, name, static_cast<long long>(value));
 }
 
-void Put(pugi::xml_node node, const Pulse& pulse) {
-  Put(node, "m_versionnum", pulse.version);
-  Put(node, "m_IsPulse", pulse.isPulse ? 1 : 0);
-  Put(node, "m_strCWSeg", pulse.segment.c_str());
-  Put(node, "m_Amp", pulse.amplitude);
-  Put(node, "m_LeadEdge", pulse.leadEdge);
-  Put(node, "m_TrailEdge", pulse.trailEdge);
-  Put(node, "m_Width", pulse.width);
+void Put(pugi::xml_node node, const PulseInfo& pulse) {
+  Put(node, "m_versionnum", pulse.m_versionnum);
+  Put(node, "m_IsPulse", pulse.m_IsPulse ? 1 : 0);
+  Put(node, "m_strCWSeg", pulse.m_strCWSeg.c_str());
+  Put(node, "m_Amp", pulse.m_Amp);
+  Put(node, "m_LeadEdge", pulse.m_LeadEdge);
+  Put(node, "m_TrailEdge", pulse.m_TrailEdge);
+  Put(node, "m_Width", pulse.m_Width);
 }
 
-void Put(pugi::xml_node node, const Waveform& waveform) {
-  Put(node, "WaveFormTitle", waveform.title.c_str());
-  Put(node, "CWType", waveform.wheel.c_str());
-  pugi::xml_node ballast = node.append_child("Attributes");
-  Put(ballast, "UART", waveform.ballast.uart);
-  Put(ballast, "BallastMakerCode", int{waveform.ballast.makerCode});
-  Put(ballast, "BallastWaveform", int{waveform.ballast.waveform});
-  Put(ballast, "Compensates", waveform.ballast.compensates ? 1 : 0);
-  Put(ballast, "PulseRatio", waveform.ballast.pulseRatio);
-  Put(ballast, "PulseLength", waveform.ballast.pulseLength);
-  pugi::xml_node pulses = node.append_child("VecPulses");
-  Put(pulses, "count", waveform.pulses.size());
-  for (const Pulse& pulse : waveform.pulses) Put(pulses.append_child("item"), pulse);
+void Put(pugi::xml_node node, const LampWaveform& attributes) {
+  Put(node, "UARTFlag", attributes.GetUARTFlag());
+  Put(node, "BallastMakerCode", int{attributes.GetBallastMakerCode()});
+  Put(node, "BallastWaveformIndex", int{attributes.GetBallastWaveformIndex()});
+  Put(node, "CompensationEnabled", attributes.CompensationEnabled ? 1 : 0);
+  Put(node, "PulseLength", attributes.PulseLength);
+  Put(node, "PulsePlateauRatio", attributes.PulsePlateauRatio);
+  Put(node.append_child("SpokePulses"), "count", 0);
 }
 
-void Put(pugi::xml_node node, const WaveformList& list) {
-  Put(node, "SeqGrpName", list.group.c_str());
-  Put(node, "SpinFactor", list.spinFactor);
-  pugi::xml_node waveforms = node.append_child("LWData");
-  Put(waveforms, "count", list.waveforms.size());
-  for (const Waveform& each : list.waveforms) Put(waveforms.append_child("item"), each);
+void Put(pugi::xml_node node, const LampWaveFormData& waveform);
+void Put(pugi::xml_node node, const LampWaveFormDB& entry);
+
+template <class Item>
+void PutList(pugi::xml_node node, const std::vector<Item>& items) {
+  Put(node, "count", items.size());
+  for (const Item& item : items) Put(node.append_child("item"), item);
+}
+
+void Put(pugi::xml_node node, const LampWaveFormData& waveform) {
+  Put(node, "WaveFormTitle", waveform.WaveFormTitle.c_str());
+  Put(node, "CWType", waveform.CWType.c_str());
+  Put(node.append_child("Attributes"), waveform.Attributes);
+  PutList(node.append_child("VecPulses"), waveform.VecPulses);
+}
+
+void Put(pugi::xml_node node, const LampWaveFormDB& entry) {
+  Put(node, "SeqGrpName", entry.SeqGrpName.c_str());
+  Put(node, "SpinFactor", entry.SpinFactor);
+  PutList(node.append_child("LWData"), entry.LWData);
 }
 
 std::string Stored(const Waveforms& data) {
   pugi::xml_document document;
-  pugi::xml_node root = document.append_child("Inputs");
-  pugi::xml_node lists = root.append_child("LampWaveformDB");
-  Put(lists, "count", data.lists.size());
-  for (const WaveformList& list : data.lists) Put(lists.append_child("item"), list);
-  Put(root, "ApplyVIDarkPulse", data.applyDarkPulse ? 1 : 0);
+  PutList(document.append_child(kElement), data);
   TextSink sink;
   document.save(sink, "", pugi::format_raw | pugi::format_no_declaration);
   return std::move(sink.text);
@@ -101,29 +109,35 @@ class Walk {
     std::from_chars(text.data(), text.data() + text.size(), value);
   }
   void Get(bool& value) { value = *Text() == '1'; }
-  void Get(unsigned char& value) {
-    int wide = 0;
-    Get(wide);
-    value = static_cast<unsigned char>(wide);
-  }
 
  private:
   pugi::xml_node child_;
 };
 
-void Get(pugi::xml_node node, Pulse& pulse) {
+void Get(pugi::xml_node node, PulseInfo& pulse) {
   Walk walk(node);
-  walk.Get(pulse.version);
-  walk.Get(pulse.isPulse);
-  pulse.segment = walk.Text();
-  walk.Get(pulse.amplitude);
-  walk.Get(pulse.leadEdge);
-  walk.Get(pulse.trailEdge);
-  walk.Get(pulse.width);
+  walk.Get(pulse.m_versionnum);
+  walk.Get(pulse.m_IsPulse);
+  pulse.m_strCWSeg = walk.Text();
+  walk.Get(pulse.m_Amp);
+  walk.Get(pulse.m_LeadEdge);
+  walk.Get(pulse.m_TrailEdge);
+  walk.Get(pulse.m_Width);
 }
 
-void Get(pugi::xml_node node, Waveform& waveform);
-void Get(pugi::xml_node node, WaveformList& list);
+void Get(pugi::xml_node node, LampWaveform& attributes) {
+  Walk walk(node);
+  std::array<int, 3> ballast{};
+  for (int& each : ballast) walk.Get(each);
+  attributes.SetUARTparams(ballast[0], static_cast<std::uint8_t>(ballast[1]),
+                           static_cast<std::uint8_t>(ballast[2]));
+  walk.Get(attributes.CompensationEnabled);
+  walk.Get(attributes.PulseLength);
+  walk.Get(attributes.PulsePlateauRatio);
+}
+
+void Get(pugi::xml_node node, LampWaveFormData& waveform);
+void Get(pugi::xml_node node, LampWaveFormDB& entry);
 
 template <class Item>
 void Get(pugi::xml_node node, std::vector<Item>& items) {
@@ -134,34 +148,26 @@ void Get(pugi::xml_node node, std::vector<Item>& items) {
   for (Item& item : items) Get(walk.Next(), item);
 }
 
-void Get(pugi::xml_node node, Waveform& waveform) {
+void Get(pugi::xml_node node, LampWaveFormData& waveform) {
   Walk walk(node);
-  waveform.title = walk.Text();
-  waveform.wheel = walk.Text();
-  Walk ballast(walk.Next());
-  ballast.Get(waveform.ballast.uart);
-  ballast.Get(waveform.ballast.makerCode);
-  ballast.Get(waveform.ballast.waveform);
-  ballast.Get(waveform.ballast.compensates);
-  ballast.Get(waveform.ballast.pulseRatio);
-  ballast.Get(waveform.ballast.pulseLength);
-  Get(walk.Next(), waveform.pulses);
+  waveform.WaveFormTitle = walk.Text();
+  waveform.CWType = walk.Text();
+  Get(walk.Next(), waveform.Attributes);
+  Get(walk.Next(), waveform.VecPulses);
 }
 
-void Get(pugi::xml_node node, WaveformList& list) {
+void Get(pugi::xml_node node, LampWaveFormDB& entry) {
   Walk walk(node);
-  list.group = walk.Text();
-  walk.Get(list.spinFactor);
-  Get(walk.Next(), list.waveforms);
+  entry.SeqGrpName = walk.Text();
+  walk.Get(entry.SpinFactor);
+  Get(walk.Next(), entry.LWData);
 }
 
 Waveforms Loaded(const std::string& text) {
   pugi::xml_document document;
   document.load_buffer(text.data(), text.size());
-  Walk walk(document.document_element());
   Waveforms data;
-  Get(walk.Next(), data.lists);
-  walk.Get(data.applyDarkPulse);
+  Get(document.document_element(), data);
   return data;
 }
 

@@ -7,6 +7,7 @@
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
+#include "pages/lamp_aging/slr_pulse_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
 #include "tool/vesk_sys_def_tool_frame.h"
@@ -25,11 +26,12 @@ const ClassRegistration<VeskSystemDefinitionToolDoc> kDocument(ids::kDocumentCla
 const ClassRegistration<VeskSysDefToolFrame> kFrame(ids::kFrameClassName);
 const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
 
+const XMLPageInstantiator<SlrPulsePage, LampAgingPageData> kLampAging("SlrPulsePage");
 const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
 
 const Framework::ExtensionModule& Module() {
-  static const Framework::ExtensionModule module{"VeskSystemDefinition",
-                                                 {{Framework::kToolClassString, ids::kToolClassName}}};
+  static const Framework::ExtensionModule module{
+      "VeskSystemDefinition", {{Framework::kToolClassString, ids::kToolClassName}}};
   return module;
 }
 

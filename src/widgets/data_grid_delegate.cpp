@@ -157,7 +157,10 @@ QWidget* DataGridDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
 QWidget* DataGridDelegate::MakeDropDown(QWidget* parent) const {
   auto* editor = new DropDownEditor(parent);
   auto* self = const_cast<DataGridDelegate*>(this);
-  editor->closed = [self, editor] { emit self->closeEditor(editor); };
+  editor->closed = [self, editor] {
+    // Losing the focus may have closed it before.
+    if (editor->isVisible()) emit self->closeEditor(editor);
+  };
   connect(editor, &QComboBox::activated, self, [self, editor] { emit self->commitData(editor); });
   QTimer::singleShot(0, editor, &QComboBox::showPopup);
   return editor;

@@ -95,7 +95,8 @@ QString CDynamicDataGrid::CellText(int row, int column) const {
 bool CDynamicDataGrid::SelectCell(int row, int column) {
   if (!isEnabled() || !d_->model.Holds(row, column)) return false;
   EndEditing();
-  setCurrentIndex(CellAt(row, column));
+  // Whatever keys are held: a script's click is a plain one.
+  selectionModel()->setCurrentIndex(CellAt(row, column), QItemSelectionModel::ClearAndSelect);
   return true;
 }
 

@@ -150,7 +150,8 @@ void CDynamicDataGrid::StepFrom(CursorAction step) {
   const QModelIndex to = moveCursor(step, Qt::NoModifier);
   // Next and previous start over at the other end; a person who edits stays.
   const bool wraps = (step == MoveNext && to < cell) || (step == MovePrevious && cell < to);
-  if (cell.isValid() && to.isValid() && !wraps) setCurrentIndex(to);
+  if (!cell.isValid() || !to.isValid() || wraps) return;
+  selectionModel()->setCurrentIndex(to, QItemSelectionModel::ClearAndSelect);
 }
 
 }  // namespace GUI

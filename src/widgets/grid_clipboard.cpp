@@ -83,11 +83,13 @@ PastePlan PlanPaste(const DataGridModel& model, const QItemSelection& selection,
                     const QString& text) {
   PastePlan plan;
   if (selection.isEmpty()) return plan;
-  for (PastePlan::Cell& cell : Targets(selection, FromTabText(text.toStdU16String()))) {
-    if (!model.Holds(cell.row, cell.column)) {
-      plan.refusal = Translated("The copied block is larger than the room for it in the table.");
-      return plan;
-    }
+  std::vector<PastePlan::Cell> targets = Targets(selection, FromTabText(text.toStdU16String()));
+  const auto fits = [&model](const PastePlan::Cell& c) { return model.Holds(c.row, c.column); };
+  if (!std::ranges::all_of(targets, fits)) {
+    plan.refusal = Translated("The copied block is larger than the room for it in the table.");
+    return plan;
+  }
+  for (PastePlan::Cell& cell : targets) {
     // Spreadsheets write TRUE and FALSE.
     if (model.Column(cell.column).kind == CellKind::kCheckBox) cell.text = cell.text.toLower();
     // A whole row may be pasted onto its like, read-only cells included.

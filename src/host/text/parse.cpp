@@ -3,6 +3,7 @@
 #include "host/text/parse.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <fstream>
 
@@ -13,14 +14,25 @@ namespace {
 constexpr std::size_t kChunkBytes = std::size_t{1} << 16;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-constexpr bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+// Objects, not functions, so that the algorithms take them in.
+constexpr auto kIsBlank = [](char c) { return c == ' ' || c == '\t'; };
+constexpr auto kIsSeparator = [](char c) {
+  return c == ' ' || c == '\t' || c == ',' || c == ';' || c == '=';
+};
 
-constexpr bool IsSeparator(char c) { return IsBlank(c) || c == ',' || c == ';' || c == '='; }
-
-bool IsAllBlank(std::string_view text) { return std::all_of(text.begin(), text.end(), IsBlank); }
+bool IsAllBlank(std::string_view text) { return std::all_of(text.begin(), text.end(), kIsBlank); }
 
 bool IsAscii(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), [](char c) { return (c & 0x80) != 0; });
+  constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+  std::uint64_t all = 0;
+  std::size_t at = 0;
+  for (; at + sizeof all <= text.size(); at += sizeof all) {
+    std::uint64_t eight;
+    std::memcpy(&eight, text.data() + at, sizeof eight);
+    all |= eight;
+  }
+  for (; at < text.size(); ++at) all |= static_cast<unsigned char>(text[at]) & 0x80u;
+  return (all & kHighBits) == 0;
 }
 
 std::string_view WithoutComment(std::string_view line) {
@@ -112,10 +124,13 @@ bool Parse::FillBuffer() {
   const auto count = static_cast<std::size_t>(input_->gcount());
   if (input_->bad()) fault_ = "reading failed behind line " + std::to_string(line_number_);
   end_ += count;
+  const std::string_view held = std::string_view(buffer_).substr(0, end_);
+  plain_ = IsAscii(held) && held.find('#') == held.npos && held.find('/') == held.npos;
   return count > 0;
 }
 
 std::string_view Parse::Clean(std::string_view raw) {
+  if (plain_) return raw;
   if (!IsAscii(raw) && !platform::IsUtf8(raw)) {
     converted_ = platform::ToUtf8(raw);
     raw = converted_;
@@ -126,11 +141,11 @@ std::string_view Parse::Clean(std::string_view raw) {
 void Parse::stripFirstWord(std::string_view line, std::string_view& firstWord,
                            std::string_view& rest) noexcept {
   const char* const end = line.data() + line.size();
-  const char* const wordBegin = std::find_if_not(line.data(), end, IsBlank);
-  const char* const wordEnd = std::find_if(wordBegin, end, IsSeparator);
-  const char* const restBegin = std::find_if_not(wordEnd, end, IsSeparator);
+  const char* const wordBegin = std::find_if_not(line.data(), end, kIsBlank);
+  const char* const wordEnd = std::find_if(wordBegin, end, kIsSeparator);
+  const char* const restBegin = std::find_if_not(wordEnd, end, kIsSeparator);
   const char* restEnd = end;
-  while (restEnd != restBegin && IsBlank(restEnd[-1])) --restEnd;
+  while (restEnd != restBegin && kIsBlank(restEnd[-1])) --restEnd;
   firstWord = std::string_view(wordBegin, static_cast<std::size_t>(wordEnd - wordBegin));
   rest = std::string_view(restBegin, static_cast<std::size_t>(restEnd - restBegin));
 }

@@ -59,6 +59,8 @@ class Parse {
   std::string buffer_;
   std::size_t begin_ = 0;  ///< of what is not delivered yet
   std::size_t end_ = 0;    ///< of what was read
+  /// Nothing in the buffer but ASCII without a sign of a comment: its lines need no second look.
+  bool plain_ = false;
   std::string converted_;
   std::string fault_;
   std::ostream* trace_ = nullptr;

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <ctime>
 #include <mutex>
+#include <thread>
 
 namespace platform::xml::node_pool {
 namespace {
@@ -42,8 +43,7 @@ static_assert(sizeof(xmlNode) <= kSlotBytes && sizeof(xmlNode) > kSlotBytes - 16
 class SpinLock {
  public:
   void lock() noexcept {
-    while (flag_.test_and_set(std::memory_order_acquire)) {
-    }
+    while (flag_.test_and_set(std::memory_order_acquire)) std::this_thread::yield();
   }
   void unlock() noexcept { flag_.clear(std::memory_order_release); }
 

@@ -146,7 +146,7 @@ class Writer {
     text_ += element->children == nullptr ? "/>" : ">";
     if (element->children == nullptr) return false;
     ++depth_;
-    if (mixedDepth_ == 0 && IsMixed(element)) mixedDepth_ = depth_;
+    if (indents_ && mixedDepth_ == 0 && IsMixed(element)) mixedDepth_ = depth_;
     return true;
   }
 

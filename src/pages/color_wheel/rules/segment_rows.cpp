@@ -3,7 +3,6 @@
 #include "pages/color_wheel/rules/segment_rows.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace color_wheel {
 namespace {
@@ -42,8 +41,9 @@ void AddSegment(ColorWheelData& wheel, int rowTag) {
 
 void CopySegments(ColorWheelData& wheel, std::span<const RowBlock> blocks) {
   MatchFilters(wheel);
-  for (const auto& [first, last] : std::views::reverse(blocks)) {
-    for (auto row = static_cast<std::size_t>(first); row <= static_cast<std::size_t>(last); ++row) {
+  for (auto block = blocks.rbegin(); block != blocks.rend(); ++block) {
+    for (int each = block->first; each <= block->second; ++each) {
+      const auto row = static_cast<std::size_t>(each);
       wheel.Segments.push_back(SSegGeom(wheel.Segments[row]));
       wheel.FilterSpecs.push_back(SFilterSpec(wheel.FilterSpecs[row]));
     }
@@ -52,7 +52,8 @@ void CopySegments(ColorWheelData& wheel, std::span<const RowBlock> blocks) {
 
 void DeleteSegments(ColorWheelData& wheel, std::span<const RowBlock> blocks) {
   MatchFilters(wheel);
-  for (const auto& [first, last] : std::views::reverse(blocks)) {
+  for (auto block = blocks.rbegin(); block != blocks.rend(); ++block) {
+    const auto [first, last] = *block;
     wheel.Segments.erase(wheel.Segments.begin() + first, wheel.Segments.begin() + last + 1);
     wheel.FilterSpecs.erase(wheel.FilterSpecs.begin() + first,
                             wheel.FilterSpecs.begin() + last + 1);

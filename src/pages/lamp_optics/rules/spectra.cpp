@@ -55,8 +55,8 @@ Curve CurveOf(std::span<const SpectralPoint> points) {
     curve.push_back({static_cast<double>(point.Wavelength), point.Value});
   }
   std::ranges::stable_sort(curve, {}, &Point::wavelength);
-  const auto doubled = std::ranges::unique(curve, {}, &Point::wavelength);
-  curve.erase(doubled.begin(), doubled.end());
+  const auto doubled = [](const Point& a, const Point& b) { return a.wavelength == b.wavelength; };
+  curve.erase(std::unique(curve.begin(), curve.end(), doubled), curve.end());
   return curve;
 }
 

@@ -86,6 +86,21 @@ TEST(SpectrumFiles, AreReadAsTheirTextSays) {
   EXPECT_GE(files, 19);
 }
 
+TEST(SpectrumFiles, TheSampleProjectsAreReadWithoutAnOddity) {
+  int files = 0;
+  const fs::path samples = fs::path(SYSDEF_SOURCE_DIR) / "samples";
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(samples)) {
+    const std::string folder = entry.path().parent_path().filename().string();
+    if (folder != "Lamps" && folder != "Optics") continue;
+    const LoadReport report = folder == "Lamps" ? lamp_optics::ReadLampFile(entry.path()).report
+                                                : lamp_optics::ReadOpticsFile(entry.path()).report;
+    EXPECT_THAT(ReportLines(report), testing::SizeIs(1)) << entry.path();
+    EXPECT_GE(report.points, 100u) << entry.path();
+    ++files;
+  }
+  EXPECT_GE(files, 4);
+}
+
 TEST(SpectrumFiles, AFileThatCannotBeReadHasNoPointsAndAReason) {
   const auto lamp = lamp_optics::ReadLampFile(kFiles / "nowhere.lmp");
   EXPECT_FALSE(lamp.Accepted());

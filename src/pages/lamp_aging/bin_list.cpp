@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#include "pages/lamp_aging/bin_list.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QStyle>
+#include <algorithm>
+
+namespace lamp_aging {
+
+namespace {
+
+constexpr int kHoverMs = 250;
+constexpr Qt::Alignment kLeft = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr Qt::Alignment kRight = Qt::AlignRight | Qt::AlignVCenter;
+
+}  // namespace
+
+BinList::BinList(QWidget* parent) : GUI::ReadOnlyTable(parent) {
+  setSelectionMode(SingleSelection);
+  setSelectionBehavior(SelectRows);
+  setShowGrid(true);
+  setMouseTracking(true);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  horizontalHeader()->setHighlightSections(false);
+  hover_.setSingleShot(true);
+  hover_.setInterval(kHoverMs);
+  connect(&hover_, &QTimer::timeout, this, &BinList::SelectHovered);
+  connect(this, &QTableWidget::itemSelectionChanged, this, &BinList::binSelectionChanged);
+}
+
+void BinList::ShowFeedback(const BinTable& table) {
+  ShowColumns({{" Bin#", "XXXBIN#XX", kLeft},
+               {"Lower Limit", "XLower LimitX", kRight},
+               {"Upper Limit", "XUpper LimitX", kRight},
+               {"Avg. Pulse Amplitude Ratio", "XAvg. Pulse Amplitude RatioX", Qt::AlignCenter}});
+  ShowRows(FeedbackRows(table));
+}
+
+void BinList::ShowNoFeedback(const BinTable& table) {
+  ShowColumns({{" Bin#", "XXXBIN#XX", kLeft},
+               {"Avg. Pulse Amplitude Ratio", "XAvg. Pulse Amplitude RatioX", Qt::AlignCenter}});
+  ShowRows(NoFeedbackRows(table));
+}
+
+void BinList::ShowColumns(std::initializer_list<Column> columns) {
+  setColumnCount(static_cast<int>(columns.size()));
+  int number = 0, width = 0;
+  for (const Column& column : columns) {
+    auto* heading = new QTableWidgetItem(QString::fromLatin1(column.heading));
+    heading->setTextAlignment(column.alignment);
+    setHorizontalHeaderItem(number, heading);
+    setColumnWidth(number, fontMetrics().horizontalAdvance(QString::fromLatin1(column.widestText)));
+    width += columnWidth(number);
+    ++number;
+  }
+  // Wide enough for the form with more columns, so that nothing moves when the other is shown.
+  const int around = 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  setMinimumWidth(std::max(minimumWidth(), width + around));
+}
+
+template <class Rows>
+void BinList::ShowRows(const Rows& rows) {
+  clearSelection();
+  setCurrentItem(nullptr);
+  setRowCount(static_cast<int>(rows.size()));
+  for (int row = 0; row < rowCount(); ++row) {
+    for (int column = 0; column < columnCount(); ++column) {
+      const std::string& text =
+          rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+      auto* cell = new QTableWidgetItem(QString::fromStdString(text));
+      cell->setData(Qt::TextAlignmentRole,
+                    horizontalHeaderItem(column)->data(Qt::TextAlignmentRole));
+      setItem(row, column, cell);
+    }
+  }
+  scrollToTop();
+}
+
+std::optional<std::size_t> BinList::SelectedBin() const {
+  const QModelIndexList rows = selectionModel()->selectedRows();
+  if (rows.isEmpty()) return std::nullopt;
+  return static_cast<std::size_t>(rows.front().row());
+}
+
+void BinList::SelectBin(std::size_t number) {
+  const int row = static_cast<int>(number);
+  if (row >= rowCount()) return;
+  setCurrentCell(row, 0);
+  selectRow(row);
+  scrollToItem(item(row, 0));
+  setFocus(Qt::OtherFocusReason);
+}
+
+bool BinList::viewportEvent(QEvent* event) {
+  // Each movement starts the rest anew; what takes the pointer elsewhere ends it.
+  if (event->type() == QEvent::MouseMove) {
+    pointer_ = static_cast<QMouseEvent*>(event)->pos();
+    hover_.start();
+  }
+  const bool ends = event->type() == QEvent::Leave || event->type() == QEvent::MouseButtonPress ||
+                    event->type() == QEvent::Wheel;
+  if (ends) hover_.stop();
+  return GUI::ReadOnlyTable::viewportEvent(event);
+}
+
+void BinList::SelectHovered() {
+  const QModelIndex cell = indexAt(pointer_);
+  if (cell.isValid()) selectRow(cell.row());
+}
+
+}  // namespace lamp_aging

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: The System Definition developers
+#include "archive/archive_exception.h"
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <exception>
+#include <optional>
+#include <string>
+
+#include "archive/xml_archive_exception.h"
+
+namespace {
+
+using boost::archive::archive_exception;
+using zel::archive::xml_archive_exception;
+
+TEST(ArchiveException, EachCodeHasItsText) {
+  const char* const texts[] = {
+      "uninitialized exception",    "unknown derived exception", "unregistered class",
+      "invalid signature",          "unsupported version",       "pointer conflict",
+      "incompatible native format", "array size too short",      "stream error",
+      "class name too long",        "unregistered void cast",    "programming error"};
+  int code = 0;
+  for (const char* text : texts) {
+    const archive_exception fault(static_cast<archive_exception::exception_code>(code++));
+    EXPECT_STREQ(fault.what(), text);
+  }
+}
+
+TEST(ArchiveException, EachXmlCodeHasItsText) {
+  const char* const texts[] = {
+      "uninitialized exception",    "unknown derived exception", "can't convert data to text",
+      "can't convert text to data", "its own message",           "missing element",
+      "element mismatch",           "missing curnode",           "missing attribute",
+      "programming error"};
+  int code = 0;
+  for (const char* text : texts) {
+    const auto number = static_cast<xml_archive_exception::exception_code>(code++);
+    const xml_archive_exception fault(number, "its own message", "where");
+    EXPECT_STREQ(fault.what(), text);
+    EXPECT_STREQ(fault.where(), "where");
+    const archive_exception& base = fault;
+    EXPECT_EQ(base.code(), archive_exception::other_exception);
+    EXPECT_STREQ(base.what(), text);
+  }
+  EXPECT_STREQ(xml_archive_exception(xml_archive_exception::message_in_exception).what(), "");
+}
+
+/// A library that is loaded while this lives.
+class Library {
+ public:
+  Library() : handle_(dlopen(SYSDEF_BINARY_DIR "/tests/plugins/archive_faults.so", RTLD_NOW)) {}
+  ~Library() {
+    if (handle_ != nullptr) dlclose(handle_);
+  }
+  Library(const Library&) = delete;
+  Library& operator=(const Library&) = delete;
+
+  template <class Function>
+  Function* Find(const char* name) const {
+    return handle_ == nullptr ? nullptr : reinterpret_cast<Function*>(dlsym(handle_, name));
+  }
+
+ private:
+  void* handle_;
+};
+
+TEST(ArchiveException, CrossesTheBorderOfALibrary) {
+  const Library library;
+  auto* throwXml = library.Find<void()>("ThrowXmlFault");
+  auto* throwArchive = library.Find<void()>("ThrowArchiveFault");
+  ASSERT_TRUE(throwXml != nullptr && throwArchive != nullptr) << dlerror();
+  std::exception_ptr kept;
+  std::optional<xml_archive_exception> copy;
+  try {
+    throwXml();
+    FAIL();
+  } catch (const xml_archive_exception& fault) {
+    kept = std::current_exception();
+    copy = fault;
+  }
+  EXPECT_THROW(throwArchive(), archive_exception);
+  EXPECT_STREQ(copy->what(), "from the library");
+  EXPECT_STREQ(copy->where(), "a/b");
+  try {
+    std::rethrow_exception(kept);
+  } catch (const archive_exception& fault) {
+    EXPECT_STREQ(fault.what(), "from the library");
+    EXPECT_NE(dynamic_cast<const xml_archive_exception*>(&fault), nullptr);
+  }
+}
+
+TEST(ExportRegistry, ALibraryExportsWhenItIsLoaded) {
+  const Library library;
+  auto* count = library.Find<unsigned()>("CountExported");
+  ASSERT_NE(count, nullptr) << dlerror();
+  EXPECT_EQ(count(), 1u);
+}
+
+}  // namespace
