@@ -7,6 +7,7 @@
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
+#include "pages/frame_rates/sys_def_frame_rates_page.h"
 #include "pages/lamp_aging/slr_pulse_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
@@ -28,6 +29,8 @@ const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
 
 const XMLPageInstantiator<SlrPulsePage, LampAgingPageData> kLampAging("SlrPulsePage");
 const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
+const XMLPageInstantiator<SysDefFrameRatesPage, SysDefFrameRatesPageData> kFrameRates(
+    "FrameRatesPage");
 
 const Framework::ExtensionModule& Module() {
   static const Framework::ExtensionModule module{
