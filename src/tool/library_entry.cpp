@@ -4,9 +4,11 @@
 // the functions the host attaches and detaches it by.
 
 #include "framework/gui_instantiator.h"
+#include "host/data/color_wheel_data.h"
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
+#include "pages/color_wheel/color_wheel_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
 #include "tool/vesk_sys_def_tool_frame.h"
@@ -26,10 +28,11 @@ const ClassRegistration<VeskSysDefToolFrame> kFrame(ids::kFrameClassName);
 const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
 
 const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
+const XMLPageInstantiator<ids::SysDefColorWheelPage, ColorWheelData> kColorWheel("ColorWheelPage");
 
 const Framework::ExtensionModule& Module() {
-  static const Framework::ExtensionModule module{"VeskSystemDefinition",
-                                                 {{Framework::kToolClassString, ids::kToolClassName}}};
+  static const Framework::ExtensionModule module{
+      "VeskSystemDefinition", {{Framework::kToolClassString, ids::kToolClassName}}};
   return module;
 }
 
