@@ -382,7 +382,7 @@ TEST_F(CommandLine, CheckPrintsAFindingALineAndTheCounts) {
   command_.Replace(kDatabase, "microseconds=\"180\"", "microseconds=\"soon\"");
   const CommandResult damaged = command_.Run({"check", kProject});
   EXPECT_EQ(damaged.status, 1);
-  EXPECT_THAT(damaged.out, testing::ContainsRegex("RunTimeDB: error [a-z.-]+: line [5-7]: "));
+  EXPECT_THAT(damaged.out, testing::ContainsRegex("RunTimeDB: error [a-z.-]+: line [0-9]+: "));
 }
 
 TEST_F(CommandLine, CheckGoesOnAfterAProjectThatFails) {
