@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <functional>
 
 #include "widgets/data_grid_model.h"
 #include "widgets/icons.h"
@@ -26,11 +27,22 @@ class DropDownEditor : public QComboBox {
   using QComboBox::QComboBox;
   std::function<void()> closed;
 
+  /// Before, a typed letter only searches the list.
+  [[nodiscard]] bool WasShown() const { return wasShown_; }
+
+  void showPopup() override {
+    wasShown_ = true;
+    QComboBox::showPopup();
+  }
+
   void hidePopup() override {
     QComboBox::hidePopup();
     // What was chosen is signalled after the popup has gone.
     QTimer::singleShot(0, this, [this] { closed(); });
   }
+
+ private:
+  bool wasShown_ = false;
 };
 
 bool IsActivatingKey(const QEvent& event) {
@@ -166,7 +178,9 @@ QWidget* DataGridDelegate::MakeDropDown(QWidget* parent) const {
     // Losing the focus may have closed it before.
     if (editor->isVisible()) emit self->closeEditor(editor);
   };
-  connect(editor, &QComboBox::activated, self, [self, editor] { emit self->commitData(editor); });
+  connect(editor, &QComboBox::activated, self, [self, editor] {
+    if (editor->WasShown()) emit self->commitData(editor);
+  });
   QTimer::singleShot(0, editor, &QComboBox::showPopup);
   return editor;
 }
