@@ -5,10 +5,12 @@
 
 #include "framework/gui_instantiator.h"
 #include "host/data/color_wheel_data.h"
+#include "host/data/illumination_configuration_data.h"
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
 #include "pages/color_wheel/color_wheel_page.h"
+#include "pages/illumination_config/illumination_config_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
 #include "tool/vesk_sys_def_tool_frame.h"
@@ -29,6 +31,8 @@ const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
 
 const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
 const XMLPageInstantiator<ids::SysDefColorWheelPage, ColorWheelData> kColorWheel("ColorWheelPage");
+const XMLPageInstantiator<ids::SysDefIllumConfigPage, IlluminationConfigurationData>
+    kIlluminationConfig("IlluminatorConfigPage");
 
 const Framework::ExtensionModule& Module() {
   static const Framework::ExtensionModule module{
