@@ -45,9 +45,22 @@ class ByteArchive {
       FillNumber(value);
     } else if constexpr (std::is_same_v<T, std::string>) {
       value.clear();
-      for (std::size_t left = Next() % 24; left > 0; --left) value += static_cast<char>(Next());
+      for (std::size_t left = Next() % 24; left > 0; --left) AppendText(value, Next());
     } else {
       zel::archive::serialization<T>::load(*this, value, 0);
+    }
+  }
+
+  /// Mostly characters that XML carries: letters for most control bytes, two bytes for most high
+  /// ones. The few that are left stand as they are.
+  static void AppendText(std::string& text, std::uint8_t byte) {
+    if (byte < 0x1A) {
+      text += static_cast<char>('a' + byte);
+    } else if (byte >= 0x80 && byte < 0xF0) {
+      text += static_cast<char>(0xC0 | byte >> 6);
+      text += static_cast<char>(0x80 | (byte & 0x3F));
+    } else {
+      text += static_cast<char>(byte);
     }
   }
 
