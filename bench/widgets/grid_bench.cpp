@@ -4,7 +4,10 @@
 
 #include <QApplication>
 #include <QTableWidget>
+#include <ctime>
+#include <map>
 #include <memory>
+#include <vector>
 
 #include "widgets/dynamic_data_grid.h"
 
@@ -53,26 +56,45 @@ TableAccess::Blocks EveryOtherRow(int rows) {
   return blocks;
 }
 
-/// Runs `work` once a sample on what `prepare` makes, only the work under the clock.
+/// Processor seconds that a bare QTableWidget took for that many rows.
+std::map<int, double>& TableWidgetSeconds() {
+  static std::map<int, double> seconds;
+  return seconds;
+}
+
+/// Runs `work` once a sample on what `prepare` makes, only the work under the clock. Returns the
+/// processor seconds of a sample.
 template <class Prepare, class Work>
-void Measure(benchmark::State& state, Prepare prepare, Work work) {
+double Measure(benchmark::State& state, Prepare prepare, Work work) {
+  std::clock_t clocks = 0;
   for (auto _ : state) {
     state.PauseTiming();
     auto subject = prepare();
+    const std::clock_t start = std::clock();
     state.ResumeTiming();
     work(*subject);
     state.PauseTiming();
+    clocks += std::clock() - start;
     subject.reset();
     state.ResumeTiming();
   }
   const auto rows = static_cast<double>(state.range(0));
   state.counters["per_row"] = benchmark::Counter(
       rows, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+  return static_cast<double>(clocks) / CLOCKS_PER_SEC / static_cast<double>(state.iterations());
+}
+
+void CompareWithTableWidget(benchmark::State& state, double seconds) {
+  const auto found = TableWidgetSeconds().find(static_cast<int>(state.range(0)));
+  if (found != TableWidgetSeconds().end()) {
+    state.counters["to_QTableWidget"] = seconds / found->second;
+  }
 }
 
 void FillTableWidget(benchmark::State& state) {
-  const auto texts = MakeTexts(static_cast<int>(state.range(0)));
-  Measure(
+  const int rows = static_cast<int>(state.range(0));
+  const auto texts = MakeTexts(rows);
+  TableWidgetSeconds()[rows] = Measure(
       state, [] { return std::make_unique<QTableWidget>(0, kColumns); },
       [&](QTableWidget& table) {
         for (const QStringList& row : texts) {
@@ -85,9 +107,10 @@ void FillTableWidget(benchmark::State& state) {
 
 void InsertRows(benchmark::State& state) {
   const auto texts = MakeTexts(static_cast<int>(state.range(0)));
-  Measure(state, MakeGrid, [&](CDynamicDataGrid& grid) {
+  const double seconds = Measure(state, MakeGrid, [&](CDynamicDataGrid& grid) {
     for (const QStringList& row : texts) grid.InsertRow(row);
   });
+  CompareWithTableWidget(state, seconds);
 }
 
 /// As a person adds them: each is selected, in a grid on the screen.
@@ -100,9 +123,10 @@ void AddRowsShown(benchmark::State& state) {
     QApplication::processEvents();
     return grid;
   };
-  Measure(state, shown, [&](CDynamicDataGrid& grid) {
+  const double seconds = Measure(state, shown, [&](CDynamicDataGrid& grid) {
     for (const QStringList& row : texts) grid.AddRow(row);
   });
+  CompareWithTableWidget(state, seconds);
 }
 
 template <class Operation>

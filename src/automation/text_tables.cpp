@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QHash>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSet>
@@ -114,7 +115,10 @@ class Printer {
   }
 
   void PrintControl(QWidget& widget) {
-    const QString text = ShownText(widget);
+    QString text = ShownText(widget);
+    // An empty box shows its hint.
+    const auto* line = qobject_cast<const QLineEdit*>(&widget);
+    if (line && text.isEmpty()) text = line->placeholderText();
     const bool drawn = text.isEmpty() && !widget.property("text").isValid() &&
                        !widget.property("currentText").isValid();
     // A named frame around others says nothing of its own.
@@ -167,7 +171,9 @@ class Printer {
   }
 
   void PrintTable(const Table& table) {
-    TextRows rows{table.Headers()};
+    QStringList headers = table.Headers();
+    for (QString& header : headers) header = header.simplified();
+    TextRows rows{headers};
     for (int row = 0; row < table.Rows(); ++row) {
       QStringList cells;
       for (int column = 0; column < table.Columns(); ++column)

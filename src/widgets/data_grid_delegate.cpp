@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <functional>
 
 #include "widgets/data_grid_model.h"
 #include "widgets/icons.h"
@@ -26,11 +27,22 @@ class DropDownEditor : public QComboBox {
   using QComboBox::QComboBox;
   std::function<void()> closed;
 
+  /// Before, a typed letter only searches the list.
+  [[nodiscard]] bool WasShown() const { return wasShown_; }
+
+  void showPopup() override {
+    wasShown_ = true;
+    QComboBox::showPopup();
+  }
+
   void hidePopup() override {
     QComboBox::hidePopup();
     // What was chosen is signalled after the popup has gone.
     QTimer::singleShot(0, this, [this] { closed(); });
   }
+
+ private:
+  bool wasShown_ = false;
 };
 
 bool IsActivatingKey(const QEvent& event) {
@@ -59,6 +71,11 @@ void DrawLines(QPainter& painter, const QStyleOptionViewItem& option) {
   painter.setPen(Mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.2));
   painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
   painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
+}
+
+void Disable(QStyleOption& option) {
+  option.state &= ~QStyle::State_Enabled;
+  option.palette.setCurrentColorGroup(QPalette::Disabled);
 }
 
 QStyle& StyleOf(const QStyleOptionViewItem& option) {
@@ -125,7 +142,7 @@ void DataGridDelegate::PaintBox(QPainter& painter, const QStyleOptionViewItem& o
   box.palette.setColor(QPalette::Window, Mixed(option.palette.color(QPalette::Base),
                                                option.palette.color(QPalette::Text), 0.6));
   box.state = option.state & ~(QStyle::State_HasFocus | QStyle::State_Selected);
-  if (!model_.IsChangeable(index.row(), index.column())) box.state &= ~QStyle::State_Enabled;
+  if (!model_.IsChangeable(index.row(), index.column())) Disable(box);
   box.state |= model_.IsChecked(index.row(), index.column()) ? QStyle::State_On : QStyle::State_Off;
   StyleOf(option).drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &painter, option.widget);
 }
@@ -139,7 +156,7 @@ void DataGridDelegate::PaintButton(QPainter& painter, const QStyleOptionViewItem
   button.text = index.data().toString();
   button.state = option.state & ~(QStyle::State_HasFocus | QStyle::State_Selected);
   button.state |= pressed_ == index ? QStyle::State_Sunken : QStyle::State_Raised;
-  if (model_.IsReadOnly()) button.state &= ~QStyle::State_Enabled;
+  if (model_.IsReadOnly()) Disable(button);
   StyleOf(option).drawControl(QStyle::CE_PushButton, &button, &painter, option.widget);
 }
 
@@ -161,7 +178,9 @@ QWidget* DataGridDelegate::MakeDropDown(QWidget* parent) const {
     // Losing the focus may have closed it before.
     if (editor->isVisible()) emit self->closeEditor(editor);
   };
-  connect(editor, &QComboBox::activated, self, [self, editor] { emit self->commitData(editor); });
+  connect(editor, &QComboBox::activated, self, [self, editor] {
+    if (editor->WasShown()) emit self->commitData(editor);
+  });
   QTimer::singleShot(0, editor, &QComboBox::showPopup);
   return editor;
 }

@@ -203,6 +203,10 @@ QString DataGridModel::Formatted(int column, const QString& text) const {
   }
 }
 
+QString DataGridModel::Edited(int column, const QString& text) const {
+  return Column(column).asTyped ? text : Formatted(column, text);
+}
+
 void DataGridModel::SetText(int row, int column, const QString& text) {
   SetTextUnformatted(row, column, Formatted(column, text));
 }
@@ -248,6 +252,7 @@ bool DataGridModel::IsChangeable(int row, int column) const {
 std::optional<QString> DataGridModel::Refusal(int row, int column, const QString& text) const {
   switch (Column(column).kind) {
     case CellKind::kNumber: {
+      if (Column(column).asTyped) return std::nullopt;
       const auto refusal = NumberFormat(column).Refusal(text.toStdString());
       return refusal ? std::optional(QString::fromStdString(*refusal)) : std::nullopt;
     }
@@ -264,7 +269,7 @@ std::optional<QString> DataGridModel::Refusal(int row, int column, const QString
 }
 
 bool DataGridModel::Validate(int row, int column, const QString& text) const {
-  if (Column(column).kind == CellKind::kNumber) {
+  if (Column(column).kind == CellKind::kNumber && !Column(column).asTyped) {
     return CGridFmtNumCell(NumberFormat(column)).ValidateEdit(text);
   }
   const auto refusal = Refusal(row, column, text);
@@ -279,7 +284,7 @@ bool DataGridModel::Edit(int row, int column, const QString& text) {
     emit editRefused();
     return false;
   }
-  SetText(row, column, text);
+  SetTextUnformatted(row, column, Edited(column, text));
   if (Row(row).texts[column] != before) emit cellEdited(row, column);
   return true;
 }

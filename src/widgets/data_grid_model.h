@@ -66,6 +66,8 @@ class DataGridModel : public QAbstractTableModel {
 
   /// The text that this cell makes of a text.
   [[nodiscard]] QString Formatted(int column, const QString& text) const;
+  /// What an edit of that text leaves in the cell.
+  [[nodiscard]] QString Edited(int column, const QString& text) const;
   void SetText(int row, int column, const QString& text);
   void SetTextUnformatted(int row, int column, const QString& text);
   [[nodiscard]] QStringList Choices(int row, int column) const;

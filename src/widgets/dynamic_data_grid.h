@@ -22,7 +22,7 @@ namespace GUI {
 /// moves. Rows count from 0 without the header. Each row has an id that is never 0 and stays with
 /// it, and each copied row remembers the id of the row it was copied from.
 ///
-/// Keys: Enter, Tab and arrows move, F2, Enter or typing edit, Escape leaves the cell as it was,
+/// Keys: arrows and Tab move, F2, Enter or typing edit, F4 lists, Escape leaves the cell as it was,
 /// Space toggles and presses; Ctrl+C and Ctrl+V copy and paste tab-separated text; the row
 /// operations have their keys and stand in the context menu.
 class CDynamicDataGrid : public QTableView, public TableAccess {
@@ -126,6 +126,8 @@ class CDynamicDataGrid : public QTableView, public TableAccess {
   /// first; it calls DeleteSelectedRows and the like itself.
   void SetRowOperationHandler(std::function<void(RowOperation)> handler);
   void RunRowOperation(RowOperation operation);
+  /// The grid's own operation, for a handler that adds to it.
+  void RunOwnOperation(RowOperation operation);
   /// Image, tool tip, shortcut and enabling of the operation; for buttons. Owned by the grid.
   [[nodiscard]] QAction* RowAction(RowOperation operation) const;
 

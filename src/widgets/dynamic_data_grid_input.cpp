@@ -48,7 +48,7 @@ void CDynamicDataGrid::PasteCells() {
   }
   const PastePlan::Cell* firstEdited = nullptr;
   for (const PastePlan::Cell& cell : plan.cells) {
-    d_->model.SetText(cell.row, cell.column, cell.text);
+    d_->model.SetTextUnformatted(cell.row, cell.column, d_->model.Edited(cell.column, cell.text));
     if (!firstEdited && KindOf(cell.column) != CellKind::kCheckBox) firstEdited = &cell;
   }
   for (const PastePlan::Cell& cell : plan.cells) {

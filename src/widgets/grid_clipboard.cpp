@@ -101,7 +101,7 @@ PastePlan PlanPaste(const DataGridModel& model, const QItemSelection& selection,
                               model.Column(cell.column).heading.simplified(), *refusal);
       return plan;
     }
-    if (model.Formatted(cell.column, cell.text) != shown) plan.cells.push_back(std::move(cell));
+    if (model.Edited(cell.column, cell.text) != shown) plan.cells.push_back(std::move(cell));
   }
   return plan;
 }

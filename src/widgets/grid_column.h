@@ -22,6 +22,9 @@ struct GridColumn {
   double maximum = -1.0;
   bool minimumSet = false;
   bool maximumSet = false;
+  /// Number columns: an edit is neither checked nor formatted here. The text stays as typed until
+  /// the owner, which hears of the edit, judges it and sets another one.
+  bool asTyped = false;
 };
 
 }  // namespace GUI

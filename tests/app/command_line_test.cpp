@@ -369,7 +369,7 @@ TEST_F(CommandLine, CheckPrintsAFindingALineAndTheCounts) {
   EXPECT_EQ(clean.status, 0) << clean;
   EXPECT_EQ(clean.err, "");
   EXPECT_THAT(clean.out,
-              MatchesRegex(kProject + ": checked [0-9]+ pages?: 0 errors, 0 warnings\n"));
+              testing::ContainsRegex("\n" + kProject + ": checked [0-9]+ pages: 0 errors, "));
 
   command_.Replace(kDatabase, "degrees=\"4.5\"", "degrees=\"400\"");
   const CommandResult found = command_.Run({"check", kProject});
@@ -377,12 +377,12 @@ TEST_F(CommandLine, CheckPrintsAFindingALineAndTheCounts) {
   EXPECT_THAT(found.out,
               HasSubstr("PixmeldPage: error pixmeld.start-range: Start of 1st Subframe is 400, "
                         "outside degrees [0-360]\n"));
-  EXPECT_THAT(found.out, HasSubstr(": 1 error, 0 warnings\n"));
+  EXPECT_THAT(found.out, HasSubstr(": 1 error, "));
 
   command_.Replace(kDatabase, "microseconds=\"180\"", "microseconds=\"soon\"");
   const CommandResult damaged = command_.Run({"check", kProject});
   EXPECT_EQ(damaged.status, 1);
-  EXPECT_THAT(damaged.out, testing::ContainsRegex("RunTimeDB: error [a-z.-]+: line [5-7]: "));
+  EXPECT_THAT(damaged.out, testing::ContainsRegex("RunTimeDB: error [a-z.-]+: line [0-9]+: "));
 }
 
 TEST_F(CommandLine, CheckGoesOnAfterAProjectThatFails) {

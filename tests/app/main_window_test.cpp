@@ -177,6 +177,7 @@ TEST_F(MainWindowTest, AProjectThatCannotBeOpenedLeavesTheOneShown) {
   folder_.Write("bad.ostproj", "<OstProject>");
   EXPECT_THROW(window_->Open((folder_.Path() / "bad.ostproj").string()), OstException);
   EXPECT_THAT(window_->windowTitle().toStdString(), HasSubstr("test"));
+  Select("Pixmeld(TM) Control");
   EXPECT_EQ(Start().text(), "4.00");
 }
 

@@ -187,6 +187,18 @@ TEST_F(GridKeys, ADropDownOpensAtItsArrowAndEscapes) {
   EXPECT_THAT(edits, IsEmpty());
 }
 
+TEST_F(GridKeys, ATypedLetterSearchesTheListAndEscapeForgetsIt) {
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+    GoTo(1, kColor);
+    Type("b");
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    Press(key);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !grid.indexWidget(grid.currentIndex()); }));
+    EXPECT_EQ(grid.CellText(1, kColor), key == Qt::Key_Escape ? "Red" : "Blue");
+  }
+  EXPECT_EQ(edits.size(), 1u);
+}
+
 TEST_F(GridKeys, RowOperationsHaveKeys) {
   grid.SetNewRowValues(Values("new"));
   GoTo(1, kName);

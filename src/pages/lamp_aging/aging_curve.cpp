@@ -114,8 +114,6 @@ void AgingCurve::Draw() {
   chart_->Clear();
   binsOfSeries_.clear();
   DrawSteps();
-  selectionSeries_ = chart_->AddSeries(feedback_ ? QStringLiteral("Selected bin") : QString(), {});
-  probeSeries_ = chart_->AddSeries(feedback_ ? QStringLiteral("Probe") : QString(), {});
   if (feedback_) DrawOverlaps();
   DrawLimits();
   DrawSelection();
@@ -124,29 +122,35 @@ void AgingCurve::Draw() {
   TakeTypedProbe(probeBox_->text());
 }
 
+// The selection and the probe come second and third, so that their colors do not depend on how many
+// series the bins take.
 void AgingCurve::DrawSteps() {
-  if (!feedback_) {
-    const double amplitude = table_.empty() ? kBreak : table_.begin()->m_avgPulseAmplitude;
-    chart_->AddSeries(QStringLiteral("Amplitude"),
-                      {{0, amplitude}, {static_cast<double>(kMaxFeedbackValue), amplitude}});
-    return;
+  const auto lanes = Lanes(feedback_ ? CurveSteps(table_) : FlatStep());
+  DrawLane(lanes.empty() ? std::vector<CurveStep>() : lanes.front(), QStringLiteral("Bins"));
+  selectionSeries_ = chart_->AddSeries(QStringLiteral("Selected bin"), {});
+  probeSeries_ = chart_->AddSeries(QStringLiteral("Probe"), {});
+  for (std::size_t lane = 1; lane < lanes.size(); ++lane) {
+    DrawLane(lanes[lane], QStringLiteral("Overlapping bins"));
   }
-  for (const std::vector<CurveStep>& lane : Lanes(CurveSteps(table_))) {
-    QList<QPointF> points;
-    std::vector<std::size_t> bins;
-    for (const CurveStep& step : lane) {
-      if (!points.isEmpty() && points.back().x() < step.lower) {
-        points << QPointF(points.back().x(), kBreak);
-        bins.push_back(bins.back());
-      }
-      points << QPointF(step.lower, step.amplitude) << QPointF(step.upper, step.amplitude);
-      bins.insert(bins.end(), 2, step.bin);
+}
+
+std::vector<CurveStep> AgingCurve::FlatStep() const {
+  if (table_.empty()) return {};
+  return {{0, 0, kMaxFeedbackValue, table_.begin()->m_avgPulseAmplitude}};
+}
+
+void AgingCurve::DrawLane(const std::vector<CurveStep>& lane, const QString& name) {
+  QList<QPointF> points;
+  std::vector<std::size_t> bins;
+  for (const CurveStep& step : lane) {
+    if (!points.isEmpty() && points.back().x() < step.lower) {
+      points << QPointF(points.back().x(), kBreak);
+      bins.push_back(bins.back());
     }
-    chart_->AddSeries(
-        binsOfSeries_.empty() ? QStringLiteral("Bins") : QStringLiteral("Overlapping bins"),
-        points);
-    binsOfSeries_.push_back(std::move(bins));
+    points << QPointF(step.lower, step.amplitude) << QPointF(step.upper, step.amplitude);
+    bins.insert(bins.end(), 2, step.bin);
   }
+  binsOfSeries_[chart_->AddSeries(name, points)] = std::move(bins);
 }
 
 void AgingCurve::DrawOverlaps() {
@@ -240,9 +244,9 @@ void AgingCurve::MoveProbe(int feedback) {
 }
 
 void AgingCurve::EmitClicked(int series, int index) {
-  const auto number = static_cast<std::size_t>(series);
-  if (number >= binsOfSeries_.size()) return;
-  emit binClicked(binsOfSeries_[number].at(static_cast<std::size_t>(index)));
+  const auto bins = binsOfSeries_.find(series);
+  if (bins != binsOfSeries_.end())
+    emit binClicked(bins->second.at(static_cast<std::size_t>(index)));
 }
 
 }  // namespace lamp_aging

@@ -4,10 +4,12 @@
 
 #include <QWidget>
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <vector>
 
 #include "pages/lamp_aging/rules/bin_rules.h"
+#include "pages/lamp_aging/rules/curve.h"
 
 class QLabel;
 class QLineEdit;
@@ -40,6 +42,9 @@ class AgingCurve : public QWidget {
  private:
   void Draw();
   void DrawSteps();
+  void DrawLane(const std::vector<CurveStep>& lane, const QString& name);
+  /// What the curve of a ballast without feedback is.
+  [[nodiscard]] std::vector<CurveStep> FlatStep() const;
   void DrawOverlaps();
   void DrawLimits();
   void DrawSelection();
@@ -62,7 +67,7 @@ class AgingCurve : public QWidget {
   QSlider* probeSlider_ = nullptr;
   QLabel* probeText_ = nullptr;
   /// For each series that draws bins, the bin number of each of its points.
-  std::vector<std::vector<std::size_t>> binsOfSeries_;
+  std::map<int, std::vector<std::size_t>> binsOfSeries_;
   int selectionSeries_ = -1;
   int probeSeries_ = -1;
 };

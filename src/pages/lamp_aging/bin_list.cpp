@@ -18,7 +18,9 @@ constexpr Qt::Alignment kRight = Qt::AlignRight | Qt::AlignVCenter;
 
 }  // namespace
 
-BinList::BinList(QWidget* parent) : GUI::ReadOnlyTable(parent) {
+BinList::BinList(QWidget* parent) : QTableWidget(parent) {
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
   setSelectionMode(SingleSelection);
   setSelectionBehavior(SelectRows);
   setShowGrid(true);
@@ -104,7 +106,7 @@ bool BinList::viewportEvent(QEvent* event) {
   const bool ends = event->type() == QEvent::Leave || event->type() == QEvent::MouseButtonPress ||
                     event->type() == QEvent::Wheel;
   if (ends) hover_.stop();
-  return GUI::ReadOnlyTable::viewportEvent(event);
+  return QTableWidget::viewportEvent(event);
 }
 
 void BinList::SelectHovered() {

@@ -2,17 +2,17 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <QTableWidget>
 #include <QTimer>
 #include <cstddef>
 #include <optional>
 
 #include "pages/lamp_aging/rules/bin_table.h"
-#include "widgets/view_table_access.h"
 
 namespace lamp_aging {
 
 /// The bins of a table, one a row. A row on which the pointer rests for 250 ms is selected.
-class BinList : public GUI::ReadOnlyTable {
+class BinList : public QTableWidget {
   Q_OBJECT
 
  public:

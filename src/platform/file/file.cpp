@@ -116,6 +116,18 @@ class SizeLimitAsError {
   sigset_t before_ = {};
 };
 
+/// Writes all bytes, brings them to the disk and closes the file.
+void WriteToDisk(Descriptor& file, std::string_view bytes, const fs::path& path) {
+  const SizeLimitAsError guard;
+  while (!bytes.empty()) {
+    const ssize_t step = ::write(file.Number(), bytes.data(), bytes.size());
+    if (step < 0 && errno == EINTR) continue;
+    if (step < 0) FailWithErrno("write", path);
+    bytes.remove_prefix(static_cast<std::size_t>(step));
+  }
+  if (::fsync(file.Number()) != 0 || !file.Close()) FailWithErrno("write", path);
+}
+
 /// A new file beside the target; gone again unless it was renamed onto it.
 class Replacement {
  public:
@@ -140,16 +152,7 @@ class Replacement {
     if (!name_.empty()) ::unlink(name_.c_str());
   }
 
-  void Write(std::string_view bytes) {
-    const SizeLimitAsError guard;
-    while (!bytes.empty()) {
-      const ssize_t step = ::write(file_.Number(), bytes.data(), bytes.size());
-      if (step < 0 && errno == EINTR) continue;
-      if (step < 0) FailWithErrno("write", shown_);
-      bytes.remove_prefix(static_cast<std::size_t>(step));
-    }
-    if (::fsync(file_.Number()) != 0 || !file_.Close()) FailWithErrno("write", shown_);
-  }
+  void Write(std::string_view bytes) { WriteToDisk(file_, bytes, shown_); }
 
   void RenameOntoTarget() {
     const Descriptor folder(::open(FolderOf(target_).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -199,6 +202,17 @@ void WriteFileAtomically(const fs::path& path, std::string_view bytes) {
   Replacement replacement(path, FollowLinks(path));
   replacement.Write(bytes);
   replacement.RenameOntoTarget();
+}
+
+void WriteNewPrivateFile(const fs::path& path, std::string_view bytes) {
+  Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+  if (!file.IsOpen()) FailWithErrno("write", path);
+  try {
+    WriteToDisk(file, bytes, path);
+  } catch (const FileError&) {
+    ::unlink(path.c_str());
+    throw;
+  }
 }
 
 }  // namespace platform

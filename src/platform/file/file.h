@@ -22,4 +22,8 @@ namespace platform {
 /// disk after the step, the new one stands).
 void WriteFileAtomically(const std::filesystem::path& path, std::string_view bytes);
 
+/// Writes a file that its owner alone may read and write. Throws FileError, also when there is
+/// something of that name already; what it made is then gone again.
+void WriteNewPrivateFile(const std::filesystem::path& path, std::string_view bytes);
+
 }  // namespace platform
