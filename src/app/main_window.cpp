@@ -296,7 +296,7 @@ void MainWindow::Apply() {
 void MainWindow::Revert() {
   if (!view_ || view_->Current().empty()) return;
   try {
-    session_->Pages().Reopen(view_->Current());
+    session_->Pages().Revert(view_->Current());
   } catch (const OstException& error) {
     TellFailure(error.what());
     return;

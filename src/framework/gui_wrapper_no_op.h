@@ -25,6 +25,7 @@ class GUIWrapperNoOp : public GUIWrapperBase {
     }
     loaded_ = true;
   }
+  void DropEdits() override { page_->DropEdits(); }
   int OnSetActive() override { return page_->OnSetActive(); }
   int OnKillActive() override { return page_->OnKillActive(); }
   int OnApply() override {

@@ -5,11 +5,13 @@
 
 #include "framework/gui_instantiator.h"
 #include "host/data/color_wheel_data.h"
+#include "host/data/illumination_configuration_data.h"
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
 #include "pages/color_wheel/color_wheel_page.h"
 #include "pages/frame_rates/sys_def_frame_rates_page.h"
+#include "pages/illumination_config/illumination_config_page.h"
 #include "pages/lamp_aging/slr_pulse_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
@@ -34,6 +36,8 @@ const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage
 const XMLPageInstantiator<ids::SysDefColorWheelPage, ColorWheelData> kColorWheel("ColorWheelPage");
 const XMLPageInstantiator<SysDefFrameRatesPage, SysDefFrameRatesPageData> kFrameRates(
     "FrameRatesPage");
+const XMLPageInstantiator<ids::SysDefIllumConfigPage, IlluminationConfigurationData>
+    kIlluminationConfig("IlluminatorConfigPage");
 
 const Framework::ExtensionModule& Module() {
   static const Framework::ExtensionModule module{

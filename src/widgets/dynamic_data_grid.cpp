@@ -256,6 +256,8 @@ void CDynamicDataGrid::RunRowOperation(RowOperation operation) {
   }
 }
 
+void CDynamicDataGrid::RunOwnOperation(RowOperation operation) { d_->RunOwn(operation); }
+
 QAction* CDynamicDataGrid::RowAction(RowOperation operation) const {
   return d_->rowActions.Action(operation);
 }

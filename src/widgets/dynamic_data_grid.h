@@ -126,6 +126,8 @@ class CDynamicDataGrid : public QTableView, public TableAccess {
   /// first; it calls DeleteSelectedRows and the like itself.
   void SetRowOperationHandler(std::function<void(RowOperation)> handler);
   void RunRowOperation(RowOperation operation);
+  /// The grid's own operation, for a handler that adds to it.
+  void RunOwnOperation(RowOperation operation);
   /// Image, tool tip, shortcut and enabling of the operation; for buttons. Owned by the grid.
   [[nodiscard]] QAction* RowAction(RowOperation operation) const;
 

@@ -55,8 +55,8 @@ void PageHost::Configure(ToolPropertyPage& page, const PageTableRow& row) const 
     std::vector<const char*> names{file.c_str()};
     for (const std::string& fragment : row.fragments) names.push_back(fragment.c_str());
     PageServices& services = Services(page);
-    const bool taken = in ? services.ConfigureInTransform(names)
-                          : services.ConfigureOutTransform(names);
+    const bool taken =
+        in ? services.ConfigureInTransform(names) : services.ConfigureOutTransform(names);
     if (taken && (in ? services.InTransformLoaded() : services.OutTransformLoaded())) return;
     // The transfer itself reports nothing, so ask the file what is wrong with it.
     const std::string path = GetToolFilePath(tool_.GetProject(), file.c_str());
@@ -85,8 +85,12 @@ ToolPropertyPage& PageHost::Open(const std::string& name) {
   return *open.page;
 }
 
-void PageHost::Reopen(const std::string& name) {
-  Initialise(name, Made(name));
+void PageHost::Reopen(const std::string& name) { Initialise(name, Made(name)); }
+
+void PageHost::Revert(const std::string& name) {
+  OpenPage& open = Made(name);
+  open.page->DropEdits();
+  Initialise(name, open);
 }
 
 void PageHost::Initialise(const std::string& name, OpenPage& open) {
@@ -98,9 +102,9 @@ void PageHost::Initialise(const std::string& name, OpenPage& open) {
   }
 }
 
-void PageHost::ReopenAll() {
+void PageHost::RevertAll() {
   for (const std::string& name : Names()) {
-    if (IsOpen(name)) Reopen(name);
+    if (IsOpen(name)) Revert(name);
   }
 }
 

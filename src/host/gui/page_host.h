@@ -39,7 +39,9 @@ class PageHost {
   ToolPropertyPage& Open(const std::string& name);
   /// Initialises a page anew from the run-time database. Throws as Open.
   void Reopen(const std::string& name);
-  void ReopenAll();
+  /// Reopen after the page dropped what was edited and not applied.
+  void Revert(const std::string& name);
+  void RevertAll();
   /// Applies one page; true when it was stored.
   bool Apply(const std::string& name);
   /// Applies all open pages in registry order, up to the first that refuses, whose name is

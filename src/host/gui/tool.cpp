@@ -59,7 +59,7 @@ int Tool::Save() {
 
 void Tool::Reload() {
   if (RunTimeDB* database = GetRunTimeDB()) database->Reload();
-  if (pages_) pages_->ReopenAll();
+  if (pages_) pages_->RevertAll();
   SetNeedToSave(0);
 }
 

@@ -23,6 +23,9 @@ class ToolPropertyPage {
 
   /// The host shows the page with data: by default the controls are filled from them.
   virtual void InitDialog();
+  /// The person drops what was edited and not applied; InitDialog with the stored data follows. For
+  /// pages that keep their controls' state when they are initialised again.
+  virtual void DropEdits() {}
   /// True when the page wants to be initialised anew before it is shown again.
   virtual bool NeedUpdate() { return false; }
   virtual int OnSetActive() { return 1; }
