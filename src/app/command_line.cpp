@@ -77,7 +77,8 @@ class Grammar {
     in.add_option("PAGE", line_.page, "The page")->required();
     in.add_option("FILE", line_.file, "The file; standard input without it");
     CLI::App& script =
-        PageVerb("script", "Drive the pages from JavaScript: script PROJECT FILE.js [ARG...]", CommandLine::Verb::kScript);
+        PageVerb("script", "Drive the pages from JavaScript: script PROJECT FILE.js [ARG...]",
+                 CommandLine::Verb::kScript);
     script.add_option("FILE.js", line_.file, "The script")->required();
     CLI::App& check = Verb("check", "Check every page's data", CommandLine::Verb::kCheck);
     check.add_option("PROJECT", line_.projects, "The projects' files or folders")->required();

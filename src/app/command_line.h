@@ -13,10 +13,10 @@ struct CommandLine {
   enum class Verb { kWindow, kShow, kExport, kImport, kScript, kCheck };
 
   Verb verb = Verb::kWindow;
-  std::vector<std::string> projects;     ///< one, but for check
-  std::string page;                      ///< empty for all
-  std::string file;                      ///< import: empty for standard input
-  std::vector<std::string> arguments;    ///< of a script
+  std::vector<std::string> projects;   ///< one, but for check
+  std::string page;                    ///< empty for all
+  std::string file;                    ///< import: empty for standard input
+  std::vector<std::string> arguments;  ///< of a script
   std::optional<std::string> explain;
   bool force = false;
   bool nonInteractive = false;

@@ -141,8 +141,8 @@ void MainWindow::BuildActions() {
 }
 
 void MainWindow::ChooseProject() {
-  const QString file = QFileDialog::getOpenFileName(
-      this, tr("Open Project"), {}, tr("Projects (*.ostproj);;All Files (*)"));
+  const QString file = QFileDialog::getOpenFileName(this, tr("Open Project"), {},
+                                                    tr("Projects (*.ostproj);;All Files (*)"));
   if (!file.isEmpty()) TryOpen(file);
 }
 
@@ -217,10 +217,10 @@ void MainWindow::ShowSession(const std::string& file) {
 void MainWindow::LockProject() {
   lock_ = std::make_unique<Framework::ProjectLock>(session_->Database().File());
   if (lock_->Acquire()) return;
-  const std::string question = "The project is held by " + lock_->Holder() +
-                               ". Open it to look at only?";
-  const int answer = ShowMessageBox(question, "Project in Use",
-                                    msgbox::kYesNo | msgbox::kIconQuestion);
+  const std::string question =
+      "The project is held by " + lock_->Holder() + ". Open it to look at only?";
+  const int answer =
+      ShowMessageBox(question, "Project in Use", msgbox::kYesNo | msgbox::kIconQuestion);
   if (answer == msgbox::kAnswerNo) {
     throw OstException(session_->Project().File().string() + ": held by " + lock_->Holder());
   }
@@ -230,9 +230,8 @@ void MainWindow::TakeOverLock() {
   const std::string question =
       "The project is held by " + lock_->Holder() +
       ". Remove its lock? What the other program saves from now on may be lost.";
-  const int answer =
-      ShowMessageBox(question, "Project in Use",
-                     msgbox::kYesNo | msgbox::kIconWarning | msgbox::kDefaultButton2);
+  const int answer = ShowMessageBox(
+      question, "Project in Use", msgbox::kYesNo | msgbox::kIconWarning | msgbox::kDefaultButton2);
   if (answer != msgbox::kAnswerYes) return;
   if (!lock_->TakeOver()) TellFailure("The lock could not be removed.");
   UpdateState();
@@ -338,9 +337,9 @@ void MainWindow::About() {
 
 bool MainWindow::LetGo() {
   if (!isWindowModified()) return true;
-  const int answer = ShowMessageBox("The project has changes that are not saved. Save them?",
-                                    "Unsaved Changes",
-                                    msgbox::kYesNoCancel | msgbox::kIconQuestion);
+  const int answer =
+      ShowMessageBox("The project has changes that are not saved. Save them?", "Unsaved Changes",
+                     msgbox::kYesNoCancel | msgbox::kIconQuestion);
   if (answer == msgbox::kAnswerYes) return Save();
   return answer == msgbox::kAnswerNo || answer == msgbox::kAnswerIgnore;
 }

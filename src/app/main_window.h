@@ -19,7 +19,7 @@ class QSplitter;
 namespace Framework {
 class ProjectLock;
 class ToolView;
-}
+}  // namespace Framework
 
 namespace app {
 

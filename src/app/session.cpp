@@ -31,9 +31,7 @@ std::filesystem::path LibraryFile() {
 }
 
 /// Loaded once and kept: the classes it registered are used until the program ends.
-void LoadLibrary() {
-  static const Framework::ExtensionLibrary library(LibraryFile());
-}
+void LoadLibrary() { static const Framework::ExtensionLibrary library(LibraryFile()); }
 
 std::unique_ptr<Framework::Tool> MakeTool() {
   LoadLibrary();
@@ -67,8 +65,8 @@ std::filesystem::path ProjectFile(const std::filesystem::path& named) {
 Session::Session(const std::filesystem::path& project)
     : project_(std::make_unique<OstProject>(ProjectFile(project))),
       schema_(std::make_unique<Framework::DatabaseSchema>(project_.get())),
-      database_(std::make_unique<Framework::RunTimeDB>(project_->RunTimeDBFile(),
-                                                       schema_->Numbers())),
+      database_(
+          std::make_unique<Framework::RunTimeDB>(project_->RunTimeDBFile(), schema_->Numbers())),
       tool_(MakeTool()) {
   // A project whose page table is damaged would show no page at all.
   static_cast<void>(ReadPageTable(*project_));

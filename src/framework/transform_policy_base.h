@@ -40,7 +40,8 @@ class TransformPolicyBase {
   /// "Cannot open archive for input: PATH" when a file is there and cannot be opened.
   void LoadStylesheet(const std::vector<const char*>& names);
   /// Runs the stylesheet; nothing when it did not succeed.
-  [[nodiscard]] std::optional<platform::xml::Document> Run(const platform::xml::Document& input) const;
+  [[nodiscard]] std::optional<platform::xml::Document> Run(
+      const platform::xml::Document& input) const;
 
   bool valid_ = false;
   std::optional<platform::xml::Stylesheet> stylesheet_;

@@ -11,9 +11,9 @@ namespace ids = VeskSystemDefinition;
 
 VeskSystemDefinitionTool::VeskSystemDefinitionTool()
     : Framework::Tool(ids::kToolName, ids::kToolTitle, false) {
-  docTemplate_ = std::make_unique<OstDocTemplate>(this, ids::kDocumentTemplateId,
-                                                  ids::kDocumentClassName, ids::kFrameClassName,
-                                                  ids::kViewClassName);
+  docTemplate_ =
+      std::make_unique<OstDocTemplate>(this, ids::kDocumentTemplateId, ids::kDocumentClassName,
+                                       ids::kFrameClassName, ids::kViewClassName);
 }
 
 void VeskSystemDefinitionTool::SetProject(OstProject* project) {

@@ -14,7 +14,6 @@ using test::Command;
 using test::CommandResult;
 using testing::AllOf;
 using testing::HasSubstr;
-using testing::MatchesRegex;
 using testing::StartsWith;
 using Words = std::vector<std::string>;
 

@@ -52,10 +52,12 @@ class Page : public Framework::ToolPropertyPage {
   static inline int accepts = 1;
 };
 
-constexpr const char* kIn = R"xml(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
+constexpr const char* kIn =
+    R"xml(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
 <xsl:template match="/"><Inputs><ratio><xsl:value-of select="RunTimeDB/Wheel/@ratio"/></ratio>
 <label><xsl:value-of select="count(RunTimeDB/*)"/></label></Inputs></xsl:template></xsl:stylesheet>)xml";
-constexpr const char* kOut = R"xml(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
+constexpr const char* kOut =
+    R"xml(<xsl:stylesheet version="1.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
 <xsl:template match="/RunTimeDB"><RunTimeDB><Wheel ratio="{ModuleOutputs/ratio}"/>
 </RunTimeDB></xsl:template><xsl:template match="RunTimeDB/Wheel"/></xsl:stylesheet>)xml";
 
@@ -184,8 +186,8 @@ TEST_F(GUIWrapperTest, AStylesheetThatIsThereAndCannotBeOpenedThrows) {
     wrapper_->ConfigureInTransform({"folder.xsl"});
     ADD_FAILURE();
   } catch (const OstException& error) {
-    EXPECT_EQ(error.what(), "Cannot open archive for input: " +
-                                (folder_.Path() / "support/folder.xsl").string());
+    EXPECT_EQ(error.what(),
+              "Cannot open archive for input: " + (folder_.Path() / "support/folder.xsl").string());
   }
 }
 

@@ -27,12 +27,18 @@ using Verb = app::CommandLine::Verb;
 
 int Run(const app::CommandLine& line) {
   switch (line.verb) {
-    case Verb::kShow: return app::RunShowCommand(line);
-    case Verb::kExport: return app::RunExportCommand(line);
-    case Verb::kImport: return app::RunImportCommand(line);
-    case Verb::kScript: return app::RunScriptCommand(line);
-    case Verb::kCheck: return app::RunCheckCommand(line);
-    case Verb::kWindow: break;
+    case Verb::kShow:
+      return app::RunShowCommand(line);
+    case Verb::kExport:
+      return app::RunExportCommand(line);
+    case Verb::kImport:
+      return app::RunImportCommand(line);
+    case Verb::kScript:
+      return app::RunScriptCommand(line);
+    case Verb::kCheck:
+      return app::RunCheckCommand(line);
+    case Verb::kWindow:
+      break;
   }
   return app::RunWindowCommand(line);
 }

@@ -34,7 +34,8 @@ ExtensionLibrary::~ExtensionLibrary() {
 
 QFunctionPointer ExtensionLibrary::Resolve(const char* function) {
   const QFunctionPointer found = library_.resolve(function);
-  if (!found) throw OstException(file_.string() + ": not an extension, " + function + " is missing");
+  if (!found)
+    throw OstException(file_.string() + ": not an extension, " + function + " is missing");
   return found;
 }
 

@@ -15,12 +15,17 @@ ProjectLock::ProjectLock(const std::filesystem::path& database)
 bool ProjectLock::Acquire() { return lock_.isLocked() || lock_.tryLock(0); }
 
 std::string ProjectLock::Holder() const {
-  if (lock_.error() == QLockFile::PermissionError) return "nobody, but its folder cannot be written";
+  if (lock_.error() == QLockFile::PermissionError)
+    return "nobody, but its folder cannot be written";
   qint64 process = 0;
   QString machine;
   QString program;
   if (!lock_.getLockInfo(&process, &machine, &program)) return "a program that left a damaged lock";
-  return QStringLiteral("%1 (process %2 on %3)").arg(program).arg(process).arg(machine).toStdString();
+  return QStringLiteral("%1 (process %2 on %3)")
+      .arg(program)
+      .arg(process)
+      .arg(machine)
+      .toStdString();
 }
 
 bool ProjectLock::TakeOver() {

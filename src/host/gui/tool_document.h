@@ -12,7 +12,8 @@ namespace Framework {
 /// and storing a document of its own is for tools that override them.
 class ToolDocument : public DynamicObject {
  public:
-  ToolDocument(const char* toolName, const char* docType) : toolName_(toolName), docType_(docType) {}
+  ToolDocument(const char* toolName, const char* docType)
+      : toolName_(toolName), docType_(docType) {}
 
   virtual bool LoadData() { return true; }
   virtual bool StoreData() { return true; }

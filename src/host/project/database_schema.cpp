@@ -52,9 +52,14 @@ class NumberFinder {
 
   [[nodiscard]] bool IsNumber(Element pattern) const {
     if (!pattern) return false;
-    static constexpr std::array<std::string_view, 8> kTypes{
-        "double",       "float",       "decimal",         "integer",
-        "unsignedByte", "unsignedInt", "nonNegativeInteger", "positiveInteger"};
+    static constexpr std::array<std::string_view, 8> kTypes{"double",
+                                                            "float",
+                                                            "decimal",
+                                                            "integer",
+                                                            "unsignedByte",
+                                                            "unsignedInt",
+                                                            "nonNegativeInteger",
+                                                            "positiveInteger"};
     for (Element child = pattern.FirstChild(); child; child = child.NextSibling()) {
       const std::string type = child.Attribute("type", "");
       if (child.BaseName() == "data" &&

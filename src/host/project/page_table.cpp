@@ -35,8 +35,8 @@ std::string Required(const std::string& path, Element row, const char* attribute
 }
 
 PageTableRow ReadRow(const std::string& path, Element page) {
-  PageTableRow row{Required(path, page, "name"), Required(path, page, "in"),
-                   Required(path, page, "out"), {}};
+  PageTableRow row{
+      Required(path, page, "name"), Required(path, page, "in"), Required(path, page, "out"), {}};
   for (Element child = page.FirstChild(); child; child = child.NextSibling()) {
     if (child.BaseName() == "Fragment") row.fragments.push_back(Required(path, child, "name"));
   }

@@ -10,7 +10,7 @@ class OstProject;
 
 /// One row of the page table: the support files that move a page's data.
 struct PageTableRow {
-  std::string page;                    ///< registration name
+  std::string page;  ///< registration name
   std::string inStylesheet;
   std::string outStylesheet;
   std::vector<std::string> fragments;  ///< empty: those that the stylesheet itself names

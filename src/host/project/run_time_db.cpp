@@ -29,9 +29,9 @@ constexpr std::string_view kEmptyDatabase =
 /// One child element of the document element.
 struct Fragment {
   std::string name;
-  Element before;      ///< as the file has it; null when the file has none
-  Document keeper;     ///< holds the tree of `now`
-  Element now;         ///< what was stored since; null when nothing was
+  Element before;   ///< as the file has it; null when the file has none
+  Document keeper;  ///< holds the tree of `now`
+  Element now;      ///< what was stored since; null when nothing was
 
   [[nodiscard]] Element Current() const { return now ? now : before; }
 };

@@ -20,7 +20,8 @@ class PixmeldPage : public Framework::ToolPropertyPage {
   void SetData(PixmeldControlData* data) noexcept { data_ = data; }
   int UpdateData(int save) override;
 
-  [[nodiscard]] static Findings CheckData(const PixmeldControlData& data, const OstProject* project);
+  [[nodiscard]] static Findings CheckData(const PixmeldControlData& data,
+                                          const OstProject* project);
 
  protected:
   void CreateControls(QWidget* window) override;

@@ -58,8 +58,8 @@ bool SameValue(const xmlNode* node, const xmlAttr* a, const xmlAttr* b,
                const NumericFields& numbers) {
   const std::string left = Value(a);
   const std::string right = Value(b);
-  return left == right || (numbers.Contains(View(node->name), View(a->name)) &&
-                           SameNumber(left, right));
+  return left == right ||
+         (numbers.Contains(View(node->name), View(a->name)) && SameNumber(left, right));
 }
 
 bool SameAttributes(const xmlNode* a, const xmlNode* b, const NumericFields& numbers) {
@@ -116,21 +116,37 @@ bool Same(const xmlNode* a, const xmlNode* b, const NumericFields& numbers) {
 void Escape(std::string& out, std::string_view text, bool inAttribute) {
   for (const char c : text) {
     switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += inAttribute ? "&quot;" : "\""; break;
-      case '\r': out += "&#13;"; break;
-      case '\n': out += inAttribute ? "&#10;" : "\n"; break;
-      case '\t': out += inAttribute ? "&#9;" : "\t"; break;
-      default: out += c;
+      case '&':
+        out += "&amp;";
+        break;
+      case '<':
+        out += "&lt;";
+        break;
+      case '>':
+        out += "&gt;";
+        break;
+      case '"':
+        out += inAttribute ? "&quot;" : "\"";
+        break;
+      case '\r':
+        out += "&#13;";
+        break;
+      case '\n':
+        out += inAttribute ? "&#10;" : "\n";
+        break;
+      case '\t':
+        out += inAttribute ? "&#9;" : "\t";
+        break;
+      default:
+        out += c;
     }
   }
 }
 
 std::vector<const xmlNode*> Elements(const xmlNode* node) {
   std::vector<const xmlNode*> found;
-  for (const xmlNode* child = NextElement(node->children); child; child = NextElement(child->next)) {
+  for (const xmlNode* child = NextElement(node->children); child;
+       child = NextElement(child->next)) {
     found.push_back(child);
   }
   return found;

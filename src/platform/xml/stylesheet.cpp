@@ -126,12 +126,41 @@ void Move(xmlDoc* from, xmlDoc* to) {
   for (xmlNode* node = to->children; node != nullptr; node = NextNode(node)) SetOwner(node, to);
 }
 
-constexpr std::array kInstructions{
-    "apply-imports", "apply-templates", "attribute", "attribute-set", "call-template", "choose",
-    "comment", "copy", "copy-of", "decimal-format", "element", "fallback", "for-each", "if",
-    "import", "include", "key", "message", "namespace-alias", "number", "otherwise", "output",
-    "param", "preserve-space", "processing-instruction", "sort", "strip-space", "stylesheet",
-    "template", "text", "transform", "value-of", "variable", "when", "with-param"};
+constexpr std::array kInstructions{"apply-imports",
+                                   "apply-templates",
+                                   "attribute",
+                                   "attribute-set",
+                                   "call-template",
+                                   "choose",
+                                   "comment",
+                                   "copy",
+                                   "copy-of",
+                                   "decimal-format",
+                                   "element",
+                                   "fallback",
+                                   "for-each",
+                                   "if",
+                                   "import",
+                                   "include",
+                                   "key",
+                                   "message",
+                                   "namespace-alias",
+                                   "number",
+                                   "otherwise",
+                                   "output",
+                                   "param",
+                                   "preserve-space",
+                                   "processing-instruction",
+                                   "sort",
+                                   "strip-space",
+                                   "stylesheet",
+                                   "template",
+                                   "text",
+                                   "transform",
+                                   "value-of",
+                                   "variable",
+                                   "when",
+                                   "with-param"};
 
 /// libxslt finds an element of its own name space that there is none of only when it is run, or
 /// without saying where it stands.

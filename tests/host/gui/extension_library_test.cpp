@@ -35,7 +35,8 @@ TEST_P(ExtensionFaults, NameTheFileAndTheReason) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, ExtensionFaults,
-    testing::Values(Fault{"Missing", "+none.so", "missing"}, Fault{"NoLibrary", "+text.so", "text.so"},
+    testing::Values(Fault{"Missing", "+none.so", "missing"},
+                    Fault{"NoLibrary", "+text.so", "text.so"},
                     Fault{"NoExtension", "no_extension.so", "not an extension"},
                     Fault{"OtherInterface", "other_interface.so", "interface 99"},
                     Fault{"RefusesToAttach", "refuses.so", "refused to attach"}),

@@ -56,7 +56,8 @@ TEST_F(PixmeldPageTest, ShowsTwoDecimalsAndTakesNothingThatNobodyEdited) {
 TEST_F(PixmeldPageTest, ApplyingUntouchedAddsOnlyWhatIsMissing) {
   EXPECT_TRUE(Apply());
   const std::string text = project_.Session().Database().Text();
-  EXPECT_THAT(text, testing::HasSubstr("<StartOfFirstSubframe degrees=\"12.345\" note=\"measured\"/>"));
+  EXPECT_THAT(text,
+              testing::HasSubstr("<StartOfFirstSubframe degrees=\"12.345\" note=\"measured\"/>"));
   EXPECT_THAT(text, testing::HasSubstr("<Mount screws=\"4\"/>\n    <ActuatorSwitchTime "
                                        "microseconds=\"0\"/>\n  </Pixmeld>"));
 }
@@ -66,6 +67,8 @@ struct Entry {
   const char* text;
   const char* prompt;  ///< empty: taken
 };
+
+void PrintTo(const Entry& entry, std::ostream* out) { *out << entry.box << ": " << entry.text; }
 
 class PixmeldEntries : public PixmeldPageTest, public testing::WithParamInterface<Entry> {};
 

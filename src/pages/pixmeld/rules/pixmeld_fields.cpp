@@ -9,8 +9,7 @@ namespace pixmeld {
 const std::array<Field, 3>& Fields() {
   static constexpr std::array<Field, 3> fields{{
       {"Start of 1st Subframe", &PixmeldControlData::StartOfFirstSubframe, "degrees", 0, 360,
-       "Enter the desired start of the first Pixmeld subframe in degrees.",
-       "pixmeld.start-range"},
+       "Enter the desired start of the first Pixmeld subframe in degrees.", "pixmeld.start-range"},
       {"Subframe Signal Latency", &PixmeldControlData::SubframeSignalLatency, "usecs", 0, 10000,
        "Enter the amount of time between the signal to switch subframes and the beginning of the "
        "actuator response.",
