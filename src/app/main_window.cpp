@@ -40,7 +40,7 @@ namespace app {
 namespace {
 
 constexpr int kSelectorWidth = 200;
-constexpr QSize kFirstSize(1100, 760);
+constexpr QSize kFirstSize(1240, 860);
 
 }  // namespace
 
