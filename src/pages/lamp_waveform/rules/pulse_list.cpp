@@ -20,7 +20,9 @@ struct Stored {
   bool taken = false;
 };
 
-bool HasTimeline(const PCGroup* group) { return group != nullptr && !group->Rates.empty(); }
+/// A wheel that cannot be timed at all, as opposed to one without segments, tells nothing of
+/// pulses.
+bool IsTimed(const SeqTimeline& timeline) { return timeline.LengthUs() > 0; }
 
 PulseInfo NoPulse(std::string key) { return PulseInfo(false, std::move(key), 1.0, 0.0, 0.0, 0.0); }
 
@@ -34,7 +36,7 @@ std::string WheelSignature(const ColorWheelData& wheel) {
 
 SeqTimeline WheelTimeline(const ColorWheelData& wheel, const PCGroup* group, double spin) {
   const SeqTimeline none(0.0, 0.0);
-  if (!HasTimeline(group)) return none;
+  if (group == nullptr || group->Rates.empty()) return none;
   const double rate = group->Rates.front();
   return SequenceTiming_Common::GetSeqTimeline(CWSegsOf(wheel.Segments), spin, rate,
                                                wheel.SpokeSize, 0, 0.0, rate, false,
@@ -78,23 +80,31 @@ std::vector<PulseInfo> DerivePulses(std::span<const PulseInfo> stored,
 
 bool FollowWheel(GUIInputsData& data) {
   LampWaveFormData* const waveform = SelectedWaveform(data);
-  if (waveform == nullptr || !HasTimeline(SelectedGroup(data))) return false;
+  if (waveform == nullptr) return false;
   std::string signature = WheelSignature(data.ColorWheel);
   if (signature == waveform->CWType) return false;
-  waveform->VecPulses = DerivePulses(waveform->VecPulses, SelectedTimeline(data));
+  const SeqTimeline timeline = SelectedTimeline(data);
+  if (!IsTimed(timeline)) return false;
+  waveform->VecPulses = DerivePulses(waveform->VecPulses, timeline);
   waveform->CWType = std::move(signature);
   return true;
 }
 
+std::span<const PulseInfo> ShownPulses(const GUIInputsData& data) {
+  const LampWaveFormData* const waveform = SelectedWaveform(data);
+  const bool fits = waveform != nullptr && waveform->CWType == WheelSignature(data.ColorWheel);
+  return fits ? std::span<const PulseInfo>(waveform->VecPulses) : std::span<const PulseInfo>();
+}
+
 void AddWaveform(GUIInputsData& data, const std::string& group, double spin,
                  const std::string& title) {
-  const PCGroup* const type = FindGroup(data, group);
+  const SeqTimeline timeline = WheelTimeline(data.ColorWheel, FindGroup(data, group), spin);
   LampWaveFormData& waveform = WaveformsOf(data, group, spin).emplace_back();
   waveform.WaveFormTitle = title;
   // Without a timeline there is no signature either, so that the pulses follow once there is one.
-  if (!HasTimeline(type)) return;
+  if (!IsTimed(timeline)) return;
   waveform.CWType = WheelSignature(data.ColorWheel);
-  waveform.VecPulses = SeedPulses(WheelTimeline(data.ColorWheel, type, spin));
+  waveform.VecPulses = SeedPulses(timeline);
 }
 
 }  // namespace lamp_waveform

@@ -39,8 +39,12 @@ inline constexpr const char* k3dGroup = "3D";
                                                   const SequenceTiming::SeqTimeline& timeline);
 
 /// Derives the selected waveform's pulses anew when the wheel is not the one they were made for.
-/// True when they were. Without a group, or a rate of it, there is no timeline and all stays.
+/// True when they were. Where the wheel cannot be timed, for want of a group type, a rate or a spin
+/// factor above 0, all stays.
 [[nodiscard]] bool FollowWheel(GUIInputsData& data);
+/// The selected waveform's pulses as the table shows them after FollowWheel: none while they belong
+/// to another wheel. The span stands until the data change.
+[[nodiscard]] std::span<const PulseInfo> ShownPulses(const GUIInputsData& data);
 
 /// Adds a waveform without pulses at the end of its pair's list.
 void AddWaveform(GUIInputsData& data, const std::string& group, double spin,

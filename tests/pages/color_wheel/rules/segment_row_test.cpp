@@ -6,8 +6,6 @@
 
 #include <string>
 
-#include "pages/color_wheel/rules/color_list.h"
-
 namespace {
 
 using color_wheel::RowTexts;
@@ -35,15 +33,6 @@ Row RedRow() {
   row.segment.Size = 119.987;
   row.filter.PeakTransmission = 0.87654;
   return row;
-}
-
-TEST(ColorList, OffersTheSupportedColorsInItsOwnOrder) {
-  EXPECT_EQ(color_wheel::ColorList("BGR"), "Red|Green|Blue|None");
-  EXPECT_EQ(color_wheel::ColorList("RGBYCMWmyk"),
-            "Red|Green|Blue|White|Cyan|Yellow|Magenta|NDMagenta|NDYellow|None");
-  EXPECT_EQ(color_wheel::ColorList(""), "None");
-  EXPECT_EQ(color_wheel::ColorCell("Red|None", 8), "Red|None|White Spoke");
-  EXPECT_EQ(color_wheel::ColorCell("Red|None", -1), "Red|None|");
 }
 
 TEST(SegmentRow, WhatNobodyEditedIsNotTaken) {

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "pages/color_wheel/rules/filter_curve.h"
 #include "pages/color_wheel/rules/segment_rows.h"
 
 namespace {
@@ -80,24 +79,6 @@ TEST(WheelCheck, WarnsOfWhatTheDeviceShows) {
   wheel.Segments[3].Color = 19;
   EXPECT_THAT(Rules(wheel), testing::AllOf(testing::Contains("W color-wheel.negative-spoke"),
                                            testing::Contains("E color-wheel.color")));
-}
-
-TEST(FilterCurve, IsHalfItsPeakAtTheEdgesAndAsSoftAsItsFactorsSay) {
-  const SFilterSpec filter{.Color = 1,
-                           .PeakTransmission = 0.9,
-                           .Sw50 = 500,
-                           .Lw50 = 600,
-                           .SwFactor = 0.2,
-                           .LwFactor = 0};
-  const auto curve = color_wheel::FilterCurve(filter);
-  const auto at = [&](int nm) { return curve[static_cast<std::size_t>(nm - 300)].value; };
-  ASSERT_EQ(curve.size(), 551u);
-  EXPECT_EQ(curve.back().wavelength, 850);
-  EXPECT_NEAR(at(500), 0.45, 1e-9);
-  EXPECT_NEAR(at(490), 0.09, 1e-9);
-  EXPECT_NEAR(at(510), 0.81, 1e-9);
-  EXPECT_NEAR(at(600), 0.9, 1e-6);
-  EXPECT_EQ(at(601), 0);
 }
 
 }  // namespace

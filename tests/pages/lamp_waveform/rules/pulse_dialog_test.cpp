@@ -2,92 +2,17 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "pages/lamp_waveform/rules/pulse_dialog.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
-
-#include "pages/lamp_waveform/rules/pulse_preview.h"
-#include "pages/lamp_waveform/rules/pulse_table.h"
 #include "pages/lamp_waveform/rules/waveform_inputs.h"
 
 namespace {
 
 using lamp_waveform::CheckAmplitude;
 using lamp_waveform::IsNoPulse;
-using lamp_waveform::MakePulse;
 using lamp_waveform::PulseValues;
-using lamp_waveform::RateInForce;
-using lamp_waveform::ReferenceRate;
 using lamp_waveform::StartEditing;
-using lamp_waveform::ValuesOf;
-
-/// Dark pulses of 20 to 60 %.
-PCGroup DarkGroup() {
-  PCGroup group = waveform_test::MakeInputs().PCGroups[0];
-  group.VIDarkPulseInfo = {.Enable = true,
-                           .MaxFallLength = 30,
-                           .Jitter = 1,
-                           .MinWidthLength = 200,
-                           .MaxRiseLength = 40,
-                           .MinAmplitude = 20,
-                           .MaxAmplitude = 60,
-                           .CWRate = 120};
-  return group;
-}
-
-TEST(PulseUnits, TheReferenceRateIsTheFirstSelectedOne) {
-  PCGroup group("2D");
-  EXPECT_EQ(ReferenceRate(group), -1);
-  group.Rates = {50, 60, 100};
-  group.BitwSelectRateFlags = {false, true, true};
-  EXPECT_EQ(ReferenceRate(group), 60);
-  group.BitwSelectRateFlags = {false};
-  EXPECT_EQ(ReferenceRate(group), -1);
-  group.Rates = {0};
-  group.BitwSelectRateFlags = {true, true};
-  EXPECT_EQ(ReferenceRate(group), -1);
-}
-
-TEST(PulseUnits, DarkPulsesMayHaveARateOfTheirOwn) {
-  PCGroup group = DarkGroup();
-  EXPECT_EQ(RateInForce(group, true), 120);
-  EXPECT_EQ(RateInForce(group, false), 60);
-  group.VIDarkPulseInfo.CWRate = 0;
-  EXPECT_EQ(RateInForce(group, true), 60);
-  group = DarkGroup();
-  group.VIDarkPulseInfo.Enable = false;
-  EXPECT_EQ(RateInForce(group, true), 60);
-}
-
-TEST(PulseUnits, ConvertBothWaysWithoutLoss) {
-  // At 50 Hz a turn takes 20000 us.
-  EXPECT_DOUBLE_EQ(lamp_waveform::DegreesOf(5000, 50), 90);
-  EXPECT_DOUBLE_EQ(lamp_waveform::MicrosecondsOf(90, 50), 5000);
-  const unsigned seed = std::random_device()();
-  SCOPED_TRACE(seed);
-  std::mt19937 random(seed);
-  std::uniform_real_distribution<double> exponent(-6, 4);
-  std::uniform_real_distribution<double> rates(1, 500);
-  for (int i = 0; i < 10000; ++i) {
-    const double rate = rates(random);
-    const PulseValues values{std::pow(10, exponent(random) / 2), std::pow(10, exponent(random)),
-                             std::pow(10, exponent(random)), std::pow(10, exponent(random))};
-    const PulseValues back = ValuesOf(MakePulse(true, "R00", values, rate), rate);
-    EXPECT_NEAR(back.amplitude, values.amplitude, 1e-12 * values.amplitude);
-    EXPECT_NEAR(back.leadingEdge, values.leadingEdge, 1e-12 * values.leadingEdge);
-    EXPECT_NEAR(back.trailingEdge, values.trailingEdge, 1e-12 * values.trailingEdge);
-    EXPECT_NEAR(back.width, values.width, 1e-12 * values.width);
-  }
-}
-
-// Limits are compared with the amplitude: 29 % must not come back as 28.999999999999996.
-TEST(PulseUnits, AnEnteredPercentageComesBackAsItWas) {
-  for (int thousandth = 1; thousandth < 200000; thousandth += 7) {
-    const double percent = thousandth / 1000.0;
-    EXPECT_EQ(ValuesOf(MakePulse(true, "", {.amplitude = percent}, 60), 60).amplitude, percent);
-  }
-}
+using waveform_test::DarkGroup;
 
 TEST(PulseDialog, AnAmplitudeOf100OrNoDurationIsNoPulse) {
   const struct {
@@ -163,53 +88,6 @@ TEST(PulseDialog, TheCheckBoxSetsItsValues) {
   EXPECT_EQ(lamp_waveform::OpeningRangeText(limits, 60.5), "(>60)");
   EXPECT_EQ(lamp_waveform::ClickedRangeText(limits, true), "(20-60)");
   EXPECT_EQ(lamp_waveform::ClickedRangeText(limits, false), "(>60)");
-}
-
-TEST(PulsePreview, EndsAtTheNextStepAboveThePulse) {
-  const struct {
-    PulseValues values;
-    double xMaximum, yMinimum, yMaximum;
-  } cases[] = {{{140, 10, 20, 100}, 150, 0, 1.5}, {{140, 10, 40, 100}, 200, 0, 1.5},
-               {{150, 0, 0, 30}, 50, 0, 2},       {{0, 0, 0, 30}, 50, 0, 1.5},
-               {{-30, 0, 0, 30}, 50, -0.5, 1.5},  {{-60, 0, 0, 30}, 50, -1, 1.5}};
-  for (const auto& [values, xMaximum, yMinimum, yMaximum] : cases) {
-    const auto preview = lamp_waveform::MakePreview(values);
-    ASSERT_TRUE(preview);
-    EXPECT_EQ(preview->xMinimum, 0);
-    EXPECT_EQ(preview->xMaximum, xMaximum) << values.amplitude;
-    EXPECT_EQ(preview->yMinimum, yMinimum) << values.amplitude;
-    EXPECT_EQ(preview->yMaximum, yMaximum) << values.amplitude;
-    EXPECT_EQ(preview->points.back(), std::pair(xMaximum, 1.0));
-  }
-  EXPECT_FALSE(lamp_waveform::MakePreview({.amplitude = 50}));
-  EXPECT_EQ(lamp_waveform::PreviewNote({140, 10.5, 20, 100}),
-            "Note:\n      Pulses (0--110.5) will be aligned with the end of sequence segment (See "
-            "TimingChart Page for detailed\n      view of waveform).");
-}
-
-TEST(PulseTable, DescribesAPulseInBothUnits) {
-  const PulseInfo pulse(true, "R00", 1.5, 3.6, 0, 36);
-  EXPECT_EQ(lamp_waveform::PulseDescription(pulse, 50),
-            "Pulse Details:\n\nAmplitude = 150.000000 %\n"
-            "Leading Edge = 200.000000 usecs/3.600000 deg\n"
-            "Trailing Edge = 0.000000 usecs/0.000000 deg\n"
-            "Width = 2000.000000 usecs/36.000000 deg\nAlignment = End of segment");
-  EXPECT_THAT(lamp_waveform::PulseDescription(pulse, -1),
-              testing::HasSubstr("\nWidth = 36.000000 deg\n"));
-  EXPECT_EQ(lamp_waveform::PulseDescription(PulseInfo(), 50),
-            "No Pulse Added:\n\nClick \"Add\" button \nto add pulse for CW segment");
-}
-
-TEST(PulseTable, FitsByItsNumberOfPulses) {
-  const struct {
-    std::size_t pulses;
-    bool expand, scroll;
-  } cases[] = {{5, false, false},  {6, true, false},  {13, true, false},
-               {14, false, false}, {15, false, true}, {0, false, false}};
-  for (const auto& [pulses, expand, scroll] : cases) {
-    EXPECT_EQ(lamp_waveform::FitOf(pulses).expandRows, expand) << pulses;
-    EXPECT_EQ(lamp_waveform::FitOf(pulses).showScrollBar, scroll) << pulses;
-  }
 }
 
 }  // namespace

@@ -64,12 +64,17 @@ TEST(PulseList, WithoutATimelineNothingIsLost) {
   LampWaveFormData& waveform = *lamp_waveform::SelectedWaveform(data);
   EXPECT_TRUE(waveform.VecPulses.empty());
   waveform.VecPulses = {Pulse("R00")};
-  EXPECT_FALSE(FollowWheel(data));
-  EXPECT_EQ(Keys(waveform.VecPulses), "R00");
+  for (const std::vector<double>& untimed : {std::vector<double>(), {0.0}}) {
+    data.PCGroups[0].Rates = untimed;
+    EXPECT_FALSE(FollowWheel(data));
+    EXPECT_EQ(Keys(waveform.VecPulses), "R00");
+    EXPECT_TRUE(lamp_waveform::ShownPulses(data).empty());
+  }
   // With a rate the pulses follow.
   data.PCGroups[0].Rates = {60};
   EXPECT_TRUE(FollowWheel(data));
-  EXPECT_EQ(waveform.VecPulses.size(), 6u);
+  EXPECT_EQ(Keys(waveform.VecPulses), "R00 (G00) (B00) (R10) (G10) (B10)");
+  EXPECT_EQ(lamp_waveform::ShownPulses(data).size(), 6u);
 }
 
 SeqTimeline Timeline(const std::vector<SeqSegment>& segments) {

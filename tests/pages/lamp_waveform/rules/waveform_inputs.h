@@ -27,6 +27,20 @@ inline GUIInputsData MakeInputs() {
   return data;
 }
 
+/// A group type with dark pulses of 20 to 60 %.
+inline PCGroup DarkGroup() {
+  PCGroup group = MakeInputs().PCGroups[0];
+  group.VIDarkPulseInfo = {.Enable = true,
+                           .MaxFallLength = 30,
+                           .Jitter = 1,
+                           .MinWidthLength = 200,
+                           .MaxRiseLength = 40,
+                           .MinAmplitude = 20,
+                           .MaxAmplitude = 60,
+                           .CWRate = 120};
+  return group;
+}
+
 /// The keys of the pulses, those without a pulse in brackets: "R00 (G00) B00".
 inline std::string Keys(const std::vector<PulseInfo>& pulses) {
   std::string keys;
