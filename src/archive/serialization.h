@@ -40,12 +40,13 @@ class access {
     }
   }
 
+  /// Null for a class without a default constructor, which no pointer can be read to.
   template <class T>
   static T* create() {
-    if constexpr (std::is_abstract_v<T>) {
-      return nullptr;
-    } else {
+    if constexpr (requires { new T(); }) {
       return new T();
+    } else {
+      return nullptr;
     }
   }
 };
