@@ -35,7 +35,7 @@ std::string WheelSignature(const ColorWheelData& wheel) {
 }
 
 SeqTimeline WheelTimeline(const ColorWheelData& wheel, const PCGroup* group, double spin) {
-  const SeqTimeline none(0.0, 0.0);
+  SeqTimeline none(0.0, 0.0);
   if (group == nullptr || group->Rates.empty()) return none;
   const double rate = group->Rates.front();
   return SequenceTiming_Common::GetSeqTimeline(CWSegsOf(wheel.Segments), spin, rate,

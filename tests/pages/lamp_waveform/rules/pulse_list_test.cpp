@@ -105,7 +105,7 @@ std::vector<PulseInfo> DeriveBySearching(const std::vector<PulseInfo>& stored,
     std::size_t found = 0;
     while (found < stored.size() && stored[found].m_strCWSeg != key) ++found;
     if (found == stored.size()) {
-      derived.push_back(PulseInfo(false, key, 1, 0, 0, 0));
+      derived.emplace_back(false, key, 1, 0, 0, 0);
     } else if (taken.insert(found).second) {
       derived.push_back(stored[found]);
     }
