@@ -32,6 +32,7 @@ Place PlaceOf(const QLayout& layout, int index) {
 
 void Append(const QLayout& layout, std::vector<QWidget*>& widgets) {
   std::vector<std::pair<Place, QLayoutItem*>> items;
+  items.reserve(static_cast<std::size_t>(layout.count()));
   for (int i = 0; i < layout.count(); ++i) items.emplace_back(PlaceOf(layout, i), layout.itemAt(i));
   std::stable_sort(items.begin(), items.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });
