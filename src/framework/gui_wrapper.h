@@ -64,6 +64,7 @@ class GUIWrapper : public GUIWrapperNoOp<Page> {
     *data_ = std::move(fresh);
     if (!this->loaded_) return;
     HandDataToPage();
+    this->page_->DropEdits();
     this->page_->InitDialog();
   }
 

@@ -17,7 +17,7 @@ namespace {
 
 /// Markers along a line: enough to tell series apart, few enough to see the line.
 constexpr int kMarkersPerSeries = 16;
-constexpr int kLegendColumns = 5;
+constexpr int kMostLegendColumns = 5;
 
 constexpr std::array kMarkers{QCPScatterStyle::ssDisc,     QCPScatterStyle::ssSquare,
                               QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond,
@@ -79,6 +79,7 @@ struct ChartPlot::Private {
   QCPItemText* MakeText(const QString& text, Qt::Alignment alignment);
   void FillLegend();
   void PlaceLegend(bool below);
+  void FitLegend() const;
   void DressAxis(const ChartTheme& theme, const QFont& font, QCPAxis& axis) const;
   void DressSeries(const ChartTheme& theme, int number) const;
   void DressCursor(const ChartTheme& theme, const QFont& font) const;
@@ -105,7 +106,7 @@ ChartPlot::Private::Private(ChartPlot& chart) : owner(chart), plot(new Plot(&cha
   // Without a size there is nothing to draw on.
   plot->setMinimumSize(50, 50);
   plot->legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
-  plot->legend->setWrap(kLegendColumns);
+  QObject::connect(plot, &QCustomPlot::beforeReplot, &chart, [this] { FitLegend(); });
   plot->legend->setBorderPen(Qt::NoPen);
   tracer = new QCPItemTracer(plot);
   tracer->setStyle(QCPItemTracer::tsCircle);
@@ -171,6 +172,23 @@ void ChartPlot::Private::FillLegend() {
   const bool shown = legend && plot->legend->itemCount() > 0;
   plot->legend->setVisible(shown);
   PlaceLegend(shown);
+}
+
+/// As many columns as have room for the widest entry.
+void ChartPlot::Private::FitLegend() const {
+  QCPLegend& entries = *plot->legend;
+  int widest = 1;
+  for (int i = 0; i < entries.itemCount(); ++i) {
+    // The last row may have empty places.
+    const QCPAbstractLegendItem* item = entries.item(i);
+    if (item) widest = std::max(widest, item->minimumOuterSizeHint().width());
+  }
+  const QMargins margins = entries.margins();
+  const int room = plot->width() - margins.left() - margins.right() + entries.columnSpacing();
+  const int columns = std::clamp(room / (widest + entries.columnSpacing()), 1, kMostLegendColumns);
+  if (columns == entries.wrap()) return;
+  entries.setWrap(columns);
+  entries.setFillOrder(QCPLayoutGrid::foColumnsFirst, true);
 }
 
 /// The legend stands below the axes, where it hides nothing; one that is not shown takes no room.

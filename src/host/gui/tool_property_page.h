@@ -23,7 +23,7 @@ class ToolPropertyPage {
 
   /// The host shows the page with data: by default the controls are filled from them.
   virtual void InitDialog();
-  /// The person drops what was edited and not applied; InitDialog with the stored data follows. For
+  /// What was edited and not applied is dropped, for a revert or an import; InitDialog follows. For
   /// pages that keep their controls' state when they are initialised again.
   virtual void DropEdits() {}
   /// True when the page wants to be initialised anew before it is shown again.

@@ -40,7 +40,7 @@ SegmentGrid::SegmentGrid(GUI::CDynamicDataGrid& grid) : grid_(grid) {
     columns.push_back(NumberColumn(filter.header, filter.decimals));
   }
   grid_.SetColumns(columns.data(), static_cast<int>(columns.size()));
-  grid_.SetColumnSample(kColorColumn, QStringLiteral("White Spoke"));
+  grid_.SetColumnSample(kColorColumn, QStringLiteral("NDMagenta"));
   grid_.SetColumnSample(1, QStringLiteral("360.00"));
 }
 

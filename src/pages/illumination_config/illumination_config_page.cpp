@@ -61,7 +61,7 @@ void SysDefIllumConfigPage::SetUpButtons() {
                      [grid = ui_->wheel, op = operation] { grid->RunRowOperation(op); });
     wheelControls_.push_back(button);
   }
-  wheelControls_.insert(wheelControls_.end(), {ui_->wheel, ui_->spokeSize});
+  wheelControls_.insert(wheelControls_.end(), {ui_->wheel, ui_->spokeSize, ui_->picture});
 }
 
 void SysDefIllumConfigPage::ConnectSources() {

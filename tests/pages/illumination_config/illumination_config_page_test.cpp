@@ -263,10 +263,12 @@ TEST(IlluminationConfigPage, TheGridsLiveOnUntilOtherDataCome) {
   auto& services =
       Framework::PageHost::Services(page.project.Session().Pages().Open("IlluminatorConfigPage"));
   const auto exported = services.ExportData();
-  page.Sources().SetCell(0, 1, "Cyan");
-  EXPECT_TRUE(page.Apply());
-  services.ImportData(exported);
-  EXPECT_EQ(page.Sources().Cell(0, 1), "Blue");
+  for (const bool applied : {false, true}) {
+    page.Sources().SetCell(0, 1, "Cyan");
+    EXPECT_TRUE(!applied || page.Apply());
+    services.ImportData(exported);
+    EXPECT_EQ(page.Sources().Cell(0, 1), "Blue");
+  }
 }
 
 TEST(IlluminationConfigPage, ThePictureSelectsSegments) {
