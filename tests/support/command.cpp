@@ -6,6 +6,8 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 namespace test {
@@ -70,6 +72,11 @@ CommandResult Command::Run(const std::vector<std::string>& arguments, const std:
   const bool whole = ended && program.exitStatus() == QProcess::NormalExit;
   return {whole ? program.exitCode() : -1, program.readAllStandardOutput().toStdString(),
           program.readAllStandardError().toStdString()};
+}
+
+std::string Command::ReadSupport(const std::string& file) {
+  std::ifstream in(fs::path(SYSDEF_BINARY_DIR) / "share/sysdef/support" / file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
 }
 
 bool Command::Exists(const std::string& file) const { return fs::exists(folder_.Path() / file); }

@@ -39,6 +39,8 @@ class Command {
   /// Files of the folder, by path relative to it. Writing makes the folders that are missing.
   void Write(const std::string& file, const std::string& text) { folder_.Write(file, text); }
   [[nodiscard]] std::string Read(const std::string& file) const { return folder_.Read(file); }
+  /// A support file as the program is installed with it.
+  [[nodiscard]] static std::string ReadSupport(const std::string& file);
   [[nodiscard]] bool Exists(const std::string& file) const;
   void Remove(const std::string& file);
   /// Replaces the only place of a file where `before` stands.
