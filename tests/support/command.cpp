@@ -2,8 +2,6 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "support/command.h"
 
-#include <sys/resource.h>
-
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -30,11 +28,13 @@ QProcessEnvironment PlainEnvironment(const fs::path& home) {
   return environment;
 }
 
-void LimitOwnFileSize(unsigned bytes) {
+void LimitSelf(const std::map<int, unsigned>& limits) {
   // Without the signal the write itself fails, which is how a full disk looks.
   std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit limit{bytes, bytes};
-  setrlimit(RLIMIT_FSIZE, &limit);
+  for (const auto& [resource, most] : limits) {
+    const rlimit limit{most, most};
+    setrlimit(static_cast<__rlimit_resource>(resource), &limit);
+  }
 }
 
 }  // namespace
@@ -56,7 +56,7 @@ void Command::Start(QProcess& program, const std::vector<std::string>& arguments
   for (const std::string& argument : arguments) list << QString::fromStdString(argument);
   program.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
   program.setProcessEnvironment(PlainEnvironment(folder_.Path() / kHome));
-  if (fileSize_) program.setChildProcessModifier([bytes = *fileSize_] { LimitOwnFileSize(bytes); });
+  if (!limits_.empty()) program.setChildProcessModifier([this] { LimitSelf(limits_); });
   program.start(SYSDEF_BINARY_DIR "/bin/sysdef", list);
   program.waitForStarted();
 }

@@ -2,9 +2,10 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <sys/resource.h>
+
 #include <QProcess>
 #include <map>
-#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -34,7 +35,10 @@ class Command {
   /// Starts it and comes back at once.
   void Start(QProcess& program, const std::vector<std::string>& arguments);
   /// No run from now on may write a file longer than this, as if the disk were full.
-  void LimitFileSize(unsigned bytes) { fileSize_ = bytes; }
+  void LimitFileSize(unsigned bytes) { limits_[RLIMIT_FSIZE] = bytes; }
+  /// No run from now on may take more memory of its own, or more processor time: it crashes then.
+  void LimitMemory(unsigned bytes) { limits_[RLIMIT_DATA] = bytes; }
+  void LimitProcessorTime(unsigned seconds) { limits_[RLIMIT_CPU] = seconds; }
 
   /// Files of the folder, by path relative to it. Writing makes the folders that are missing.
   void Write(const std::string& file, const std::string& text) { folder_.Write(file, text); }
@@ -53,7 +57,7 @@ class Command {
 
  private:
   TempFolder folder_;
-  std::optional<unsigned> fileSize_;
+  std::map<int, unsigned> limits_;
 };
 
 }  // namespace test
