@@ -18,6 +18,7 @@ namespace {
 /// Markers along a line: enough to tell series apart, few enough to see the line.
 constexpr int kMarkersPerSeries = 16;
 constexpr int kMostLegendColumns = 5;
+constexpr int kMostTicks = 5;
 
 constexpr std::array kMarkers{QCPScatterStyle::ssDisc,     QCPScatterStyle::ssSquare,
                               QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond,
@@ -63,6 +64,7 @@ struct ChartPlot::Private {
   struct Drawn {
     QCPAbstractPlottable* plottable = nullptr;
     bool isBars = false;
+    QColor color = {};
   };
   struct Area {
     QCPGraph* lower = nullptr;
@@ -80,6 +82,7 @@ struct ChartPlot::Private {
   void FillLegend();
   void PlaceLegend(bool below);
   void FitLegend() const;
+  void FitTicks() const;
   void DressAxis(const ChartTheme& theme, const QFont& font, QCPAxis& axis) const;
   void DressSeries(const ChartTheme& theme, int number) const;
   void DressCursor(const ChartTheme& theme, const QFont& font) const;
@@ -106,7 +109,10 @@ ChartPlot::Private::Private(ChartPlot& chart) : owner(chart), plot(new Plot(&cha
   // Without a size there is nothing to draw on.
   plot->setMinimumSize(50, 50);
   plot->legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
-  QObject::connect(plot, &QCustomPlot::beforeReplot, &chart, [this] { FitLegend(); });
+  QObject::connect(plot, &QCustomPlot::beforeReplot, &chart, [this] {
+    FitLegend();
+    FitTicks();
+  });
   plot->legend->setBorderPen(Qt::NoPen);
   tracer = new QCPItemTracer(plot);
   tracer->setStyle(QCPItemTracer::tsCircle);
@@ -141,13 +147,13 @@ ChartPlot::Private::Drawn ChartPlot::Private::Draw(const ChartSeries& s) {
     auto* bars = new QCPBars(plot->xAxis, plot->yAxis);
     for (const QPointF& point : s.points) bars->addData(point.x(), point.y());
     bars->setWidth(BarWidth(s.points));
-    drawn = {bars, true};
+    drawn = {bars, true, s.color};
   } else {
     QCPGraph* graph = MakeGraph(s.points);
     const bool steps = s.style == LineChart::Style::kSteps;
     graph->setLineStyle(steps ? QCPGraph::lsStepLeft : QCPGraph::lsLine);
     graph->setScatterSkip(static_cast<int>(s.points.size()) / kMarkersPerSeries);
-    drawn = {graph, false};
+    drawn = {graph, false, s.color};
   }
   drawn.plottable->setName(s.name);
   return drawn;
@@ -191,6 +197,14 @@ void ChartPlot::Private::FitLegend() const {
   entries.setFillOrder(QCPLayoutGrid::foColumnsFirst, true);
 }
 
+/// As many ticks on the x axis as have room for their texts.
+void ChartPlot::Private::FitTicks() const {
+  const QCPAxis& axis = *plot->xAxis;
+  const int widest =
+      QFontMetrics(axis.tickLabelFont()).horizontalAdvance(QStringLiteral("0000000"));
+  axis.ticker()->setTickCount(std::clamp(plot->width() / widest, 2, kMostTicks));
+}
+
 /// The legend stands below the axes, where it hides nothing; one that is not shown takes no room.
 void ChartPlot::Private::PlaceLegend(bool below) {
   QCPLayoutGrid& rows = *plot->plotLayout();
@@ -221,12 +235,15 @@ void ChartPlot::Private::DressAxis(const ChartTheme& theme, const QFont& font,
 
 void ChartPlot::Private::DressSeries(const ChartTheme& theme, int number) const {
   const Drawn& drawn = series[static_cast<std::size_t>(number)];
-  drawn.plottable->setPen(theme.SeriesPen(number));
+  const QColor color =
+      drawn.color.isValid() ? theme.Readable(drawn.color) : theme.SeriesColor(number);
+  QPen pen = theme.SeriesPen(number);
+  pen.setColor(color);
+  drawn.plottable->setPen(pen);
   if (drawn.isBars) drawn.plottable->setBrush(theme.BandColor(number));
   auto* graph = qobject_cast<QCPGraph*>(drawn.plottable);
   if (!graph) return;
   const auto shape = kMarkers[static_cast<std::size_t>(number) % kMarkers.size()];
-  const QColor color = theme.SeriesColor(number);
   graph->setScatterStyle(QCPScatterStyle(shape, QPen(color, 1.2), color, 5.5));
 }
 

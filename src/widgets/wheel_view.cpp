@@ -318,9 +318,9 @@ bool WheelView::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   const auto segment = SegmentAt(help->pos());
-  QToolTip::showText(
-      help->globalPos(),
-      segment ? tr("%1: %2").arg(*segment + 1).arg(SegmentText(*segment)) : QString(), this);
+  QToolTip::showText(help->globalPos(),
+                     segment ? tr("%1: %2").arg(*segment).arg(SegmentText(*segment)) : QString(),
+                     this);
   return true;
 }
 
