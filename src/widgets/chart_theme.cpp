@@ -43,7 +43,7 @@ double Luminance(const QColor& color) {
 }
 
 double Contrast(const QColor& a, const QColor& b) {
-  const auto [darker, brighter] = std::minmax(Luminance(a), Luminance(b));
+  const auto [darker, brighter] = std::minmax({Luminance(a), Luminance(b)});
   return (brighter + 0.05) / (darker + 0.05);
 }
 
