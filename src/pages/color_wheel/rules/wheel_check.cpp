@@ -19,6 +19,8 @@ namespace {
 using platform::GeneralText;
 
 constexpr const char* kGrid = "Segment Geometry";
+/// What a total with two decimals shows; less is left over where a turn cannot be divided.
+constexpr double kLeastGapDegrees = 0.005;
 
 /// Segments are numbered as the rows of the grid are headed.
 std::string NameOf(std::size_t index) { return "segment " + std::to_string(index); }
@@ -111,7 +113,7 @@ void CheckTotal(const ColorWheelData& wheel, FindingReport& report) {
   if (TotalFault(total)) {
     report.Error("color-wheel.total", "Total",
                  "the segments add up to " + TotalText(total) + " degrees");
-  } else if (!wheel.Segments.empty() && layout.GapDegrees() > 0) {
+  } else if (!wheel.Segments.empty() && layout.GapDegrees() >= kLeastGapDegrees) {
     report.Warning("color-wheel.gap", "Total",
                    "the segments leave " + GeneralText(layout.GapDegrees()) + " degrees open");
   }

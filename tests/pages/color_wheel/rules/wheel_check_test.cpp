@@ -38,6 +38,9 @@ std::vector<std::string> Rules(const ColorWheelData& wheel, std::vector<double> 
 TEST(WheelCheck, HasNothingToSayOfAGoodWheel) {
   EXPECT_THAT(Rules(ThreeColors(), {50, 60}), IsEmpty());
   EXPECT_THAT(Rules(ColorWheelData()), IsEmpty());
+  ColorWheelData sevenths;
+  for (int i = 0; i < 7; ++i) Add(sevenths, i % 3, 51.42857);
+  EXPECT_THAT(Rules(sevenths), IsEmpty());
 }
 
 TEST(WheelCheck, KnowsWhatThePageRefuses) {
