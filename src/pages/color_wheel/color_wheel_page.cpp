@@ -106,6 +106,7 @@ void SysDefColorWheelPage::InitDialog() {
   defaultRate_ = project.GetNumber("projectclass.seqrange.defaultnominalframerate",
                                    color_wheel::kDefaultFrameRate);
   supportedRates_ = SupportedRates(project);
+  ShowSpokeSize();
   Show();
   ShowFrameRate();
 }
@@ -121,6 +122,7 @@ int SysDefColorWheelPage::UpdateData(int save) {
     }
     TakeGrid();
   } else {
+    ShowSpokeSize();
     Show();
   }
   return 1;
@@ -129,14 +131,14 @@ int SysDefColorWheelPage::UpdateData(int save) {
 // Data to controls.
 
 void SysDefColorWheelPage::Show() {
-  ShowSpokeSize();
   rows_->Show(*data_);
   UpdateButtons();
   UpdateTotal();
   UpdatePictures();
 }
 
-/// The box gets its text when it is left. Before that the value stands in it as a hint.
+/// The box gets its text when it is left. Before that the value stands in it as a hint. Other data
+/// replace it; row operations leave alone what is being typed.
 void SysDefColorWheelPage::ShowSpokeSize() {
   const QString text = QString::fromStdString(color_wheel::SpokeSizeText(data_->SpokeSize));
   ui_->spokeSize->setPlaceholderText(text);

@@ -226,6 +226,14 @@ TEST(ColorWheelPage, TheSpokeSizeIsTakenWhenItsBoxIsLeft) {
     EXPECT_EQ(page.TakeChanged(), entry.stored != before) << entry.text;
     before = entry.stored;
   }
+  // Row buttons take no focus: what is being typed stands until the box is left.
+  box.SetText("7.25");
+  box.Type("9");
+  page.Form().Press("Add row");
+  EXPECT_EQ(box.Text(), "7.2509");
+  box.Leave();
+  EXPECT_EQ(page.Now().SpokeSize, 7.2509);
+  box.SetText("7.25");
   // An apply takes the text that is still being typed.
   box.Type("\b\b9");
   EXPECT_TRUE(page.Apply());
