@@ -23,7 +23,7 @@ constexpr const char* kWheelControls[] = {"Add segment",    "Copy segments", "De
                                           "Move to bottom", "Spoke Size"};
 
 std::string Wheel(int number, double first) {
-  return "<Wheel number=\"" + std::to_string(number) +
+  return "<Wheel number=\"" + std::to_string(number) + "\" serial=\"W" + std::to_string(number) +
          "\"><SpokeSize degrees=\"12.3456\"/><PwmEfficiencies use=\"measured\"/><Segments>"
          "<Segment color=\"Yellow\" degrees=\"" +
          std::to_string(first) +
@@ -296,6 +296,20 @@ TEST(IlluminationConfigPage, TheGridsLiveOnUntilOtherDataCome) {
     services.ImportData(exported);
     EXPECT_EQ(page.Sources().Cell(0, 1), "Blue");
   }
+}
+
+TEST(IlluminationConfigPage, WhatOthersStoredWithAWheelFollowsItsNewNumber) {
+  SourcePage page(Full());
+  page.Sources().Select({{1, 1}});
+  page.Form().Press("Delete source");
+  page.Sources().ClickCell(6, 0);
+  page.Segments().SetCell(0, 1, "17");
+  ASSERT_TRUE(page.Apply());
+  const std::string text = page.Database();
+  EXPECT_THAT(text, HasSubstr("number=\"1\" serial=\"W2\""));
+  EXPECT_THAT(text, testing::Not(HasSubstr("serial=\"W1\""))) << "its wheel is gone";
+  ASSERT_TRUE(page.Apply());
+  EXPECT_EQ(page.Database(), text);
 }
 
 TEST(IlluminationConfigPage, ThePictureSelectsSegments) {
