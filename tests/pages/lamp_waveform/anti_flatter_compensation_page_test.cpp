@@ -103,7 +103,8 @@ TEST_F(CompensationPageTest, ShowsTheSelectedWaveform) {
   EXPECT_EQ(Rows(), "RG+ GB- BR- ");
   EXPECT_FALSE(Grid().Editable(0, 0));
   EXPECT_FALSE(TakeChanged());
-  EXPECT_EQ(Stored(), lamp_waveform::SelectedWaveform(std::as_const(data))->Attributes);
+  GUIInputsData untouched = MakeData();
+  EXPECT_EQ(Stored(), lamp_waveform::SelectedWaveform(untouched)->Attributes);
 
   data.CurrentWaveformName = "Other";
   page.Refresh();
@@ -135,59 +136,42 @@ TEST_F(CompensationPageTest, IsCalledByTheBallastMaker) {
   EXPECT_EQ(Stored(), before);
 }
 
-TEST_F(CompensationPageTest, TakesARatioOfMoreThan100) {
-  const std::string refusal = "Pulse Plateau Ratio should be more than 100%.";
+TEST_F(CompensationPageTest, TakesValuesWithinTheirLimits) {
+  const char* const kTaken = "taken";
+  const char* const kSame = "";
+  const char* const kRatioRefusal = "Pulse Plateau Ratio should be more than 100%.";
+  const char* const kLengthRefusal = "Pulse Length should be a non zero positive number.";
   const struct {
+    const char* field;
     const char* text;
-    int stored;
-    bool refused;
-  } cases[] = {{"100", 120, true}, {"101", 101, false},  {"101", 101, false}, {"", 101, true},
-               {"0", 101, true},   {"0101", 101, false}, {"150", 150, false}};
-  for (const auto& [text, stored, refused] : cases) {
-    const bool changes = Stored().PulsePlateauRatio != stored;
-    At(kRatio).SetText(text);
-    EXPECT_EQ(Stored().PulsePlateauRatio, stored) << text;
-    EXPECT_EQ(Text(kRatio), std::to_string(stored)) << text;
-    EXPECT_EQ(TakeRefusal(), refused ? refusal : "") << text;
-    EXPECT_EQ(TakeChanged(), changes) << text;
+    const char* shown;
+    const char* outcome;
+  } cases[] = {{kRatio, "100", "120", kRatioRefusal},     {kRatio, "101", "101", kTaken},
+               {kRatio, "", "101", kRatioRefusal},        {kRatio, "0101", "101", kSame},
+               {kRatio, "1-3.7x0e", "1370", kTaken},  // letters cannot be typed, only pasted
+               {kLength, "250.123", "250.123", kSame},    {kLength, "250.12345", "250.123", kSame},
+               {kLength, "0", "250.123", kLengthRefusal}, {kLength, "", "250.123", kLengthRefusal},
+               {kLength, "300.5", "300.500", kTaken},     {kLength, "0.0004", "0.000", kTaken},
+               {kLength, "0", "0.000", kLengthRefusal}};
+  for (const auto& [field, text, shown, outcome] : cases) {
+    const LampWaveform before = Stored();
+    const bool taken = outcome == kTaken;
+    At(field).SetText(text);
+    EXPECT_EQ(Text(field), shown) << text;
+    EXPECT_EQ(TakeRefusal(), taken ? "" : outcome) << text;
+    EXPECT_EQ(Stored() != before, taken) << text;
+    EXPECT_EQ(TakeChanged(), taken) << text;
   }
-  // Letters cannot be typed, only pasted.
-  At(kRatio).SetText("1-1.5x0e");
-  EXPECT_EQ(Stored().PulsePlateauRatio, 1150);
-  QApplication::clipboard()->setText("160abc");
+  EXPECT_EQ(Stored().PulsePlateauRatio, 1370);
+  EXPECT_EQ(Stored().PulseLength, 0.0004);
+  QApplication::clipboard()->setText("150abc");
   At(kRatio).Type("");
   auto& field = dynamic_cast<QLineEdit&>(At(kRatio).Widget());
   field.selectAll();
   field.paste();
   At(kRatio).Leave();
-  EXPECT_EQ(Stored().PulsePlateauRatio, 160);
-  EXPECT_EQ(Text(kRatio), "160");
-  EXPECT_EQ(Stored().PulseLength, 250.12345) << "the length that is shown rounded stays";
-}
-
-TEST_F(CompensationPageTest, TakesALengthAbove0) {
-  const std::string refusal = "Pulse Length should be a non zero positive number.";
-  const struct {
-    const char* text;
-    double stored;
-    const char* shown;
-    bool refused;
-  } cases[] = {{"250.123", 250.12345, "250.123", false}, {"250.12345", 250.12345, "250.123", false},
-               {"0", 250.12345, "250.123", true},        {"", 250.12345, "250.123", true},
-               {"300.5", 300.5, "300.500", false},       {"300.50", 300.5, "300.500", false},
-               {"0.0004", 0.0004, "0.000", false},       {"0", 0.0004, "0.000", true}};
-  for (const auto& [text, stored, shown, refused] : cases) {
-    const bool changes = Stored().PulseLength != stored;
-    At(kLength).SetText(text);
-    EXPECT_EQ(Stored().PulseLength, stored) << text;
-    EXPECT_EQ(Text(kLength), shown) << text;
-    EXPECT_EQ(TakeRefusal(), refused ? refusal : "") << text;
-    EXPECT_EQ(TakeChanged(), changes) << text;
-  }
-  dynamic_cast<QLineEdit&>(At(kLength).Widget()).clear();
-  At(kLength).Type("-1");
-  At(kLength).Leave();
-  EXPECT_EQ(TakeRefusal(), refusal);
+  EXPECT_EQ(Stored().PulsePlateauRatio, 150);
+  EXPECT_EQ(Text(kRatio), "150");
 }
 
 TEST_F(CompensationPageTest, AFieldThatNobodyEditedStoresNothing) {
