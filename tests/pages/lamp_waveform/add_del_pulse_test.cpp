@@ -291,7 +291,7 @@ TEST_F(AddDelPulseTest, IsWorkedByKeyboard) {
   const Outcome outcome = Run({}, false, [&](Form& form) {
     QWidget& dialog = form.Widget();
     dialog.activateWindow();
-    QApplication::processEvents();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     const auto type = [&](const char* keys) {
       QTest::keyClicks(QApplication::focusWidget(), keys);
     };

@@ -256,7 +256,7 @@ TEST_F(CompensationPageTest, WithoutAPersonARefusalIsNotShown) {
 
 TEST_F(CompensationPageTest, IsWorkedByKeyboard) {
   page.activateWindow();
-  QApplication::processEvents();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
   const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
   At("Enable Compensation").Widget().setFocus();
   press(Qt::Key_Tab);
