@@ -2,10 +2,10 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "support/command.h"
 
-#include <sys/resource.h>
-
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 namespace test {
@@ -28,11 +28,13 @@ QProcessEnvironment PlainEnvironment(const fs::path& home) {
   return environment;
 }
 
-void LimitOwnFileSize(unsigned bytes) {
+void LimitSelf(const std::map<int, unsigned>& limits) {
   // Without the signal the write itself fails, which is how a full disk looks.
   std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit limit{bytes, bytes};
-  setrlimit(RLIMIT_FSIZE, &limit);
+  for (const auto& [resource, most] : limits) {
+    const rlimit limit{most, most};
+    setrlimit(static_cast<__rlimit_resource>(resource), &limit);
+  }
 }
 
 }  // namespace
@@ -43,7 +45,7 @@ std::ostream& operator<<(std::ostream& stream, const CommandResult& result) {
                 << result.err << "---";
 }
 
-Command::Command() {
+Command::Command() : program_(SYSDEF_BINARY_DIR "/bin/sysdef") {
   fs::copy(fs::path(SYSDEF_SOURCE_DIR) / "samples/three-color-lamp", folder_.Path(),
            fs::copy_options::recursive);
   fs::create_directory(folder_.Path() / kHome);
@@ -53,9 +55,12 @@ void Command::Start(QProcess& program, const std::vector<std::string>& arguments
   QStringList list;
   for (const std::string& argument : arguments) list << QString::fromStdString(argument);
   program.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
-  program.setProcessEnvironment(PlainEnvironment(folder_.Path() / kHome));
-  if (fileSize_) program.setChildProcessModifier([bytes = *fileSize_] { LimitOwnFileSize(bytes); });
-  program.start(SYSDEF_BINARY_DIR "/bin/sysdef", list);
+  QProcessEnvironment environment = PlainEnvironment(folder_.Path() / kHome);
+  for (const auto& [name, value] : environment_)
+    environment.insert(QString::fromStdString(name), QString::fromStdString(value));
+  program.setProcessEnvironment(environment);
+  if (!limits_.empty()) program.setChildProcessModifier([this] { LimitSelf(limits_); });
+  program.start(QString::fromStdString(program_), list);
   program.waitForStarted();
 }
 
@@ -70,6 +75,11 @@ CommandResult Command::Run(const std::vector<std::string>& arguments, const std:
   const bool whole = ended && program.exitStatus() == QProcess::NormalExit;
   return {whole ? program.exitCode() : -1, program.readAllStandardOutput().toStdString(),
           program.readAllStandardError().toStdString()};
+}
+
+std::string Command::ReadSupport(const std::string& file) {
+  std::ifstream in(fs::path(SYSDEF_BINARY_DIR) / "share/sysdef/support" / file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
 }
 
 bool Command::Exists(const std::string& file) const { return fs::exists(folder_.Path() / file); }
