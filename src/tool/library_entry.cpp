@@ -12,6 +12,7 @@
 #include "pages/color_wheel/color_wheel_page.h"
 #include "pages/frame_rates/sys_def_frame_rates_page.h"
 #include "pages/illumination_config/illumination_config_page.h"
+#include "pages/illuminators/illuminators_page.h"
 #include "pages/lamp_aging/slr_pulse_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
@@ -32,6 +33,7 @@ const ClassRegistration<VeskSysDefToolFrame> kFrame(ids::kFrameClassName);
 const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
 
 const XMLPageInstantiator<SlrPulsePage, LampAgingPageData> kLampAging("SlrPulsePage");
+const XMLPageInstantiator<IlluminatorsPage, IlluminatorsPageData> kIlluminators("IlluminatorsPage");
 const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
 const XMLPageInstantiator<ids::SysDefColorWheelPage, ColorWheelData> kColorWheel("ColorWheelPage");
 const XMLPageInstantiator<SysDefFrameRatesPage, SysDefFrameRatesPageData> kFrameRates(
