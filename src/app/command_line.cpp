@@ -82,9 +82,38 @@ class Grammar {
     script.add_option("FILE.js", line_.file, "The script")->required();
     CLI::App& check = Verb("check", "Check every page's data", CommandLine::Verb::kCheck);
     check.add_option("PROJECT", line_.projects, "The projects' files or folders")->required();
+    DeclareContainers();
+  }
+
+  CLI::App& FileVerb(const char* name, const char* description, CommandLine::Verb verb,
+                     const char* file) {
+    CLI::App& command = Verb(name, description, verb);
+    command.add_option("FILE", line_.file, file)->required();
+    return command;
+  }
+
+  void DeclareContainers() {
+    CLI::App& pack = FileVerb("pack", "Put a support file into a container, compressed",
+                              CommandLine::Verb::kPack, "The file");
+    pack.add_option("OUTPUT", line_.output, "The container to write")->required();
+    pack.add_option("--key", line_.keyFile, "Encipher it with the key in this file");
+    pack.add_flag("--no-compress", line_.keepSize, "Encipher it only");
+    CLI::App& unpack = FileVerb("unpack", "Take a container's content out",
+                                CommandLine::Verb::kUnpack, "The container");
+    unpack.add_option("OUTPUT", line_.output, "The file to write; standard output without it");
+    unpack.add_option("--key", line_.keyFile, "The key file of an enciphered container");
+    FileVerb("key", "Make a key file for pack and unpack", CommandLine::Verb::kKey,
+             "The key file to make");
+  }
+
+  /// Commands that work on files, without a project.
+  static bool IsOfFiles(CommandLine::Verb verb) {
+    using enum CommandLine::Verb;
+    return verb == kPack || verb == kUnpack || verb == kKey;
   }
 
   ParsedCommandLine Finish() {
+    if (IsOfFiles(line_.verb)) return {line_, {}, {}, kDone};
     if (line_.verb != CommandLine::Verb::kCheck) line_.projects = {project_};
     if (line_.projects.front().empty()) {
       return {std::nullopt, {}, "PROJECT is required; see sysdef --help", kWrongUse};

@@ -10,12 +10,15 @@ namespace app {
 
 /// What the person asked for.
 struct CommandLine {
-  enum class Verb { kWindow, kShow, kExport, kImport, kScript, kCheck };
+  enum class Verb { kWindow, kShow, kExport, kImport, kScript, kCheck, kPack, kUnpack, kKey };
 
   Verb verb = Verb::kWindow;
   std::vector<std::string> projects;   ///< one, but for check
   std::string page;                    ///< empty for all
   std::string file;                    ///< import: empty for standard input
+  std::string output;                  ///< of pack and unpack; empty for standard output
+  std::string keyFile;                 ///< of pack and unpack; empty for none
+  bool keepSize = false;               ///< pack: not compressed
   std::vector<std::string> arguments;  ///< of a script
   std::optional<std::string> explain;
   bool force = false;

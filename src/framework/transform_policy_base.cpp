@@ -6,9 +6,9 @@
 #include <stdexcept>
 
 #include "host/gui/tool.h"
+#include "host/project/ost_exception.h"
 #include "host/project/stylesheet_file.h"
 #include "host/project/support_files.h"
-#include "platform/xml/xml_error.h"
 
 namespace Framework {
 
@@ -35,12 +35,14 @@ void TransformPolicyBase::LoadStylesheet(const std::vector<const char*>& names) 
   std::error_code ignored;
   if (!std::filesystem::exists(path, ignored)) return;
   try {
-    const Document source = ReadStylesheetFile(path);
+    const Document source = ReadStylesheetFile(path, tool_->GetProject());
     stylesheet_ = Stylesheet::Compile(source, path);
     neededFragments_.assign(names.begin() + 1, names.end());
     if (neededFragments_.empty()) neededFragments_ = ExtractNeededDBFragmentNames(source);
     valid_ = true;
-  } catch (const platform::xml::XmlError&) {
+  } catch (const OstException&) {
+    throw;
+  } catch (const std::runtime_error&) {
     // The policy stays not valid; the host asks the file what is wrong with it.
     stylesheet_.reset();
   }

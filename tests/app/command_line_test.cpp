@@ -7,11 +7,13 @@
 #include <vector>
 
 #include "support/command.h"
+#include "support/one_line.h"
 
 namespace {
 
 using test::Command;
 using test::CommandResult;
+using test::IsOneLineWith;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -19,14 +21,6 @@ using Words = std::vector<std::string>;
 
 const std::string kProject = Command::kProject;
 const std::string kDatabase = Command::kDatabase;
-
-/// One line of the program's own that holds every one of the words.
-MATCHER_P(IsOneLineWith, words, "") {
-  const std::string& text = arg;
-  bool right = text.starts_with("sysdef: ") && text.find('\n') == text.size() - 1;
-  for (const std::string& word : words) right = right && text.find(word) != std::string::npos;
-  return right;
-}
 
 class CommandLine : public testing::Test {
  protected:

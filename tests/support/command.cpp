@@ -2,10 +2,10 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "support/command.h"
 
-#include <sys/resource.h>
-
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 namespace test {
@@ -28,11 +28,13 @@ QProcessEnvironment PlainEnvironment(const fs::path& home) {
   return environment;
 }
 
-void LimitOwnFileSize(unsigned bytes) {
+void LimitSelf(const std::map<int, unsigned>& limits) {
   // Without the signal the write itself fails, which is how a full disk looks.
   std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit limit{bytes, bytes};
-  setrlimit(RLIMIT_FSIZE, &limit);
+  for (const auto& [resource, most] : limits) {
+    const rlimit limit{most, most};
+    setrlimit(static_cast<__rlimit_resource>(resource), &limit);
+  }
 }
 
 }  // namespace
@@ -54,7 +56,7 @@ void Command::Start(QProcess& program, const std::vector<std::string>& arguments
   for (const std::string& argument : arguments) list << QString::fromStdString(argument);
   program.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
   program.setProcessEnvironment(PlainEnvironment(folder_.Path() / kHome));
-  if (fileSize_) program.setChildProcessModifier([bytes = *fileSize_] { LimitOwnFileSize(bytes); });
+  if (!limits_.empty()) program.setChildProcessModifier([this] { LimitSelf(limits_); });
   program.start(SYSDEF_BINARY_DIR "/bin/sysdef", list);
   program.waitForStarted();
 }
@@ -70,6 +72,11 @@ CommandResult Command::Run(const std::vector<std::string>& arguments, const std:
   const bool whole = ended && program.exitStatus() == QProcess::NormalExit;
   return {whole ? program.exitCode() : -1, program.readAllStandardOutput().toStdString(),
           program.readAllStandardError().toStdString()};
+}
+
+std::string Command::ReadSupport(const std::string& file) {
+  std::ifstream in(fs::path(SYSDEF_BINARY_DIR) / "share/sysdef/support" / file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), {}};
 }
 
 bool Command::Exists(const std::string& file) const { return fs::exists(folder_.Path() / file); }

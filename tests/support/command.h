@@ -2,9 +2,10 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <sys/resource.h>
+
 #include <QProcess>
 #include <map>
-#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -34,11 +35,16 @@ class Command {
   /// Starts it and comes back at once.
   void Start(QProcess& program, const std::vector<std::string>& arguments);
   /// No run from now on may write a file longer than this, as if the disk were full.
-  void LimitFileSize(unsigned bytes) { fileSize_ = bytes; }
+  void LimitFileSize(unsigned bytes) { limits_[RLIMIT_FSIZE] = bytes; }
+  /// No run from now on may take more memory of its own, or more processor time: it crashes then.
+  void LimitMemory(unsigned bytes) { limits_[RLIMIT_DATA] = bytes; }
+  void LimitProcessorTime(unsigned seconds) { limits_[RLIMIT_CPU] = seconds; }
 
   /// Files of the folder, by path relative to it. Writing makes the folders that are missing.
   void Write(const std::string& file, const std::string& text) { folder_.Write(file, text); }
   [[nodiscard]] std::string Read(const std::string& file) const { return folder_.Read(file); }
+  /// A support file as the program is installed with it.
+  [[nodiscard]] static std::string ReadSupport(const std::string& file);
   [[nodiscard]] bool Exists(const std::string& file) const;
   void Remove(const std::string& file);
   /// Replaces the only place of a file where `before` stands.
@@ -51,7 +57,7 @@ class Command {
 
  private:
   TempFolder folder_;
-  std::optional<unsigned> fileSize_;
+  std::map<int, unsigned> limits_;
 };
 
 }  // namespace test

@@ -12,6 +12,7 @@
 #include "app/commands/check_command.h"
 #include "app/commands/export_command.h"
 #include "app/commands/import_command.h"
+#include "app/commands/pack_command.h"
 #include "app/commands/script_command.h"
 #include "app/commands/show_command.h"
 #include "app/commands/window_command.h"
@@ -37,6 +38,12 @@ int Run(const app::CommandLine& line) {
       return app::RunScriptCommand(line);
     case Verb::kCheck:
       return app::RunCheckCommand(line);
+    case Verb::kPack:
+      return app::RunPackCommand(line);
+    case Verb::kUnpack:
+      return app::RunUnpackCommand(line);
+    case Verb::kKey:
+      return app::RunKeyCommand(line);
     case Verb::kWindow:
       break;
   }

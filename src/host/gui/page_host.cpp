@@ -60,7 +60,7 @@ void PageHost::Configure(ToolPropertyPage& page, const PageTableRow& row) const 
     if (taken && (in ? services.InTransformLoaded() : services.OutTransformLoaded())) return;
     // The transfer itself reports nothing, so ask the file what is wrong with it.
     const std::string path = GetToolFilePath(tool_.GetProject(), file.c_str());
-    throw OstException(DescribeStylesheetFault(path));
+    throw OstException(DescribeStylesheetFault(path, tool_.GetProject()));
   };
   load(row.inStylesheet, true);
   load(row.outStylesheet, false);

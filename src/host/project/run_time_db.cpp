@@ -58,7 +58,9 @@ struct RunTimeDB::State {
   void Take(std::string bytes);
   void Load();
   void Write();
-  [[nodiscard]] std::optional<std::string> OnDisk() const { return platform::ReadFile(file); }
+  [[nodiscard]] std::optional<std::string> OnDisk() const {
+    return platform::ReadFile(file, platform::xml::ReadLimits().bytes);
+  }
   [[nodiscard]] bool Known(const std::optional<std::string>& bytes) const;
   void Store(const Document& document, Element fragment);
   [[nodiscard]] std::string Merged() const;

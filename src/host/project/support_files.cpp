@@ -41,6 +41,12 @@ std::string GetToolFilePath(const OstProject* project, const char* fileName) {
   return (DataFolder() / "support" / fileName).string();
 }
 
+std::filesystem::path SupportKeyFile(const OstProject* project) {
+  if (const char* file = std::getenv("SYSDEF_KEY_FILE"); file && *file) return file;
+  const std::string named = project ? project->GetText(kSupportKeyFileKey, {}) : std::string();
+  return named.empty() ? std::filesystem::path() : project->Folder() / named;
+}
+
 }  // namespace Framework
 
 namespace {

@@ -26,6 +26,13 @@ namespace Framework {
 /// installed files only.
 [[nodiscard]] std::string GetToolFilePath(const OstProject* project, const char* fileName);
 
+/// The project's key that names the key file of enciphered support files, from the project's
+/// folder.
+inline constexpr const char* kSupportKeyFileKey = "projectclass.support.keyfile";
+/// The key file of enciphered support files: the one that the environment variable SYSDEF_KEY_FILE
+/// names, else the one that the project names; empty when neither does.
+[[nodiscard]] std::filesystem::path SupportKeyFile(const OstProject* project);
+
 }  // namespace Framework
 
 /// The names of the fragments that a stylesheet reads: every NAME of a path step

@@ -13,11 +13,12 @@ struct _xmlDoc;
 
 namespace platform::xml {
 
-/// Bounds on what is read. A document past one of them is refused with its own message.
+/// Bounds on what is read. A document past one of them is refused with its own message. They are
+/// some four times what the largest lamp waveform database takes (120,000 pulses).
 struct ReadLimits {
-  std::size_t bytes = 256u << 20;
+  std::size_t bytes = 128u << 20;
   /// Elements, attributes, comments and instructions together; each takes some 250 bytes.
-  std::size_t elements = 12'000'000;
+  std::size_t elements = 5'000'000;
   std::size_t attributesPerElement = 256;
 };
 
