@@ -11,6 +11,7 @@
 #include "host/gui/modal.h"
 #include "host/gui/number_box.h"
 #include "host/gui/slow_tool_tip.h"
+#include "pages/lamp_waveform/anti_flatter_compensation_page.h"
 #include "pages/lamp_waveform/lamp_waveform_pulses_page.h"
 #include "pages/lamp_waveform/new_waveform_dlg.h"
 #include "pages/lamp_waveform/rules/ballast.h"
@@ -97,6 +98,9 @@ void SysDefLampWaveformPage::CreateControls(QWidget* window) {
 void SysDefLampWaveformPage::MakeSheet() {
   sheet_ = ui_->sheet;
   sheet_->AddPage(new CLampWaveFormPulsesPage(ToolName()), QStringLiteral("Pulses"));
+  compensation_ = new CAntiFlatterCompensationPage(ToolName());
+  sheet_->AddPage(compensation_, QString::fromLatin1(
+                                     lamp_waveform::TextsOf(lamp_waveform::kAntiFlatterMaker).tab));
   sheet_->SetInputData(data_);
 }
 
@@ -132,7 +136,10 @@ void SysDefLampWaveformPage::ConnectControls() {
 
 int SysDefLampWaveformPage::UpdateData(int save) {
   if (!data_) return 1;
-  if (save) return Store() ? 1 : 0;
+  if (save) {
+    compensation_->TakeEdits();
+    return Store() ? 1 : 0;
+  }
   Refresh();
   return 1;
 }

@@ -20,6 +20,8 @@ class SysDefLampWaveformPage;
 
 namespace VeskSystemDefinition {
 
+class CAntiFlatterCompensationPage;
+
 /// The lamp's drive waveforms by group type and spin factor: chooses, makes and deletes them and
 /// sets what the ballast is told. The sub-pages of its sheet edit the chosen waveform. The
 /// selection stands in the page's lists and is mirrored into the data by every refresh.
@@ -71,6 +73,7 @@ class SysDefLampWaveformPage : public Framework::ToolPropertyPage {
   std::unique_ptr<Ui::SysDefLampWaveformPage> ui_;
   QPointer<QWidget> controls_;
   QPointer<CLWDPagePropertySheet> sheet_;
+  CAntiFlatterCompensationPage* compensation_ = nullptr;
 };
 
 }  // namespace VeskSystemDefinition

@@ -94,7 +94,8 @@ QRectF WaveformView::PlotArea() const {
   const QFontMetricsF metrics(font());
   const double line = metrics.height();
   const double numbers = metrics.horizontalAdvance(QStringLiteral("-0.0")) + 2 * kGap;
-  return QRectF(rect()).adjusted(numbers, line + 2 * kGap, -3 * kGap, -3 * line - 6 * kGap);
+  return QRectF(rect()).adjusted(numbers, 1.5 * line + 2 * kGap, -line - kGap,
+                                 -3 * line - 6 * kGap);
 }
 
 QRectF WaveformView::Strip() const {
@@ -225,9 +226,8 @@ void WaveformView::DrawTimeAxis(QPainter& painter) const {
   for (const double tick : window_.Ticks(std::max(1, static_cast<int>(plot.width() / kTickRoom)))) {
     const double x = XOf(tick);
     painter.drawLine(QPointF(x, strip.bottom()), QPointF(x, strip.bottom() + kGap));
-    const double left = std::clamp(x - kTickRoom / 2, 0.0, width() - kTickRoom);
-    painter.drawText(QRectF(left, strip.bottom() + kGap, kTickRoom, line), Qt::AlignCenter,
-                     QString::number(tick, 'g', 8));
+    painter.drawText(QRectF(x - kTickRoom / 2, strip.bottom() + kGap, kTickRoom, line),
+                     Qt::AlignCenter, QString::number(tick, 'g', 8));
   }
   painter.drawText(QRectF(plot.left(), strip.bottom() + kGap + line, plot.width(), line),
                    Qt::AlignCenter, tr("microseconds"));

@@ -12,7 +12,6 @@
 #include "pages/lamp_waveform/rules/pulse_list.h"
 #include "pages/lamp_waveform/rules/pulse_units.h"
 #include "pages/lamp_waveform/rules/selection.h"
-#include "platform/text/fill.h"
 #include "platform/text/number.h"
 
 namespace lamp_waveform {
@@ -55,10 +54,9 @@ StripPart PartOf(const SeqSegment& segment, Rows& rows) {
 std::string RowText(const PulseInfo& pulse, double rate) {
   if (!pulse.m_IsPulse) return pulse.m_strCWSeg + ": no pulse";
   const PulseValues values = ValuesOf(pulse, rate);
-  return platform::Fill(
-      "%s: %s %%, %s + %s + %s usecs",
-      {pulse.m_strCWSeg, FieldText(values.amplitude), platform::GeneralText(values.leadingEdge),
-       platform::GeneralText(values.width), platform::GeneralText(values.trailingEdge)});
+  const auto text = [](double value) { return platform::GeneralText(value); };
+  return pulse.m_strCWSeg + ": " + text(values.amplitude) + " %, " + text(values.leadingEdge) +
+         " + " + text(values.width) + " + " + text(values.trailingEdge) + " usecs";
 }
 
 void FitRanges(const SeqTimeline& timeline, WaveformPicture& picture) {
