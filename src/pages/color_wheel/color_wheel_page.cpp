@@ -20,6 +20,7 @@
 #include "pages/color_wheel/rules/wheel_check.h"
 #include "pages/color_wheel/rules/wheel_sizes.h"
 #include "ui_color_wheel_page.h"
+#include "widgets/focus_wheel.h"
 #include "widgets/when_left.h"
 
 namespace VeskSystemDefinition {
@@ -66,6 +67,7 @@ void SysDefColorWheelPage::CreateControls(QWidget* window) {
   color_wheel::SetUpFilterChart(*ui_->filters);
   BindButtons();
   ConnectControls();
+  GUI::TurnOnlyWithFocus(*ui_->frameRate);
 }
 
 void SysDefColorWheelPage::BindButtons() {
@@ -200,7 +202,7 @@ void SysDefColorWheelPage::TakeSpokeSize() {
 }
 
 void SysDefColorWheelPage::TakeFrameRate(const QString& entry) {
-  if (color_wheel::SelectFrameRate(entry.toStdString(), *data_)) Modified();
+  if (color_wheel::SelectFrameRate(entry.toStdString(), supportedRates_, *data_)) Modified();
 }
 
 // Row operations.

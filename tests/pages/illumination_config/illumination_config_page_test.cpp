@@ -140,6 +140,33 @@ TEST(IlluminationConfigPage, ATickMakesAWheelAndItsRemovalDestroysIt) {
   EXPECT_EQ(page.Segments().Rows(), 0) << "the wheel is a new one";
 }
 
+TEST(IlluminationConfigPage, AWheelMadeHereKeepsItsDigitsAndReloadsAsItWasStored) {
+  SourcePage page(WithSources("<Source slot=\"1\" kind=\"led\" color=\"Red\"/>"));
+  page.Sources().Toggle(0, 2);
+  // A seventh of a turn cannot be shown: seven rounded ones are more than a turn.
+  for (int row = 0; row < 7; ++row) page.Form().Press("Add segment");
+  for (int row = 0; row < 6; ++row) page.Segments().SetCell(row, 1, "51.428571");
+  page.Segments().Select({{0, 0}});
+  page.Form().Press("Copy segments");
+  page.Segments().Select({{0, 0}, {6, 6}});
+  page.Form().Press("Delete segments");
+  page.Segments().Select({{5, 5}});
+  page.Form().Press("Copy segments");
+  EXPECT_EQ(page.Segments().Cell(6, 1), "51.43");
+  EXPECT_EQ(page.Text("Total Degrees"), "360.00");
+  EXPECT_EQ(page.TakeTexts(), "");
+  EXPECT_TRUE(page.Apply());
+  const IlluminationConfigurationData stored = page.Now();
+  for (const SSegGeom& segment : stored.Wheels[0].Segments) EXPECT_EQ(segment.Size, 51.428571);
+  page.project.Session().Tool().Save();
+  page.project.Restart();
+  EXPECT_EQ(page.Now(), stored);
+  page.Sources().ClickCell(0, 0);
+  EXPECT_EQ(page.TakeTexts(), "") << "it holds a turn, whatever the cells add up to";
+  EXPECT_TRUE(page.Apply());
+  EXPECT_FALSE(page.project.Session().Database().Modified());
+}
+
 TEST(IlluminationConfigPage, KeysSelectSourcesToo) {
   SourcePage page(Full());
   page.Sources().ClickCell(0, 0);
