@@ -9,10 +9,13 @@
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
+#include "model/gui_inputs_data.h"
 #include "pages/color_wheel/color_wheel_page.h"
 #include "pages/frame_rates/sys_def_frame_rates_page.h"
 #include "pages/illumination_config/illumination_config_page.h"
+#include "pages/illuminators/illuminators_page.h"
 #include "pages/lamp_aging/slr_pulse_page.h"
+#include "pages/lamp_waveform/sys_def_lamp_waveform_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
 #include "tool/vesk_sys_def_tool_frame.h"
@@ -32,12 +35,15 @@ const ClassRegistration<VeskSysDefToolFrame> kFrame(ids::kFrameClassName);
 const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
 
 const XMLPageInstantiator<SlrPulsePage, LampAgingPageData> kLampAging("SlrPulsePage");
+const XMLPageInstantiator<IlluminatorsPage, IlluminatorsPageData> kIlluminators("IlluminatorsPage");
 const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
 const XMLPageInstantiator<ids::SysDefColorWheelPage, ColorWheelData> kColorWheel("ColorWheelPage");
 const XMLPageInstantiator<SysDefFrameRatesPage, SysDefFrameRatesPageData> kFrameRates(
     "FrameRatesPage");
 const XMLPageInstantiator<ids::SysDefIllumConfigPage, IlluminationConfigurationData>
     kIlluminationConfig("IlluminatorConfigPage");
+const XMLPageInstantiator<ids::SysDefLampWaveformPage, GUIInputsData> kLampWaveform(
+    "SysDefLampWaveformPage");
 
 const Framework::ExtensionModule& Module() {
   static const Framework::ExtensionModule module{

@@ -14,19 +14,10 @@ namespace {
 
 constexpr const char* kShown = "shownText";
 
-void Show(QLineEdit& box, const std::string& text) {
-  const QString shown = QString::fromStdString(text);
-  box.setProperty(kShown, shown);
-  if (box.text() != shown) box.setText(shown);
-  box.setModified(false);
-}
-
-template <class T, class Read>
-std::optional<T> Take(QLineEdit& box, T stored, Read read) {
-  if (!IsEdited(box)) return stored;
-  const auto result = read(box.text().toStdString());
-  if (const T* value = std::get_if<T>(&result)) return *value;
-  ShowMessageBox(std::get<std::string>(result), {}, msgbox::kIconWarning);
+template <class T>
+std::optional<T> Accept(QLineEdit& box, const std::variant<T, std::string>& read) {
+  if (const T* value = std::get_if<T>(&read)) return *value;
+  ShowMessageBox(std::get<std::string>(read), {}, msgbox::kIconWarning);
   box.setFocus(Qt::OtherFocusReason);
   box.selectAll();
   return std::nullopt;
@@ -34,22 +25,31 @@ std::optional<T> Take(QLineEdit& box, T stored, Read read) {
 
 }  // namespace
 
+void ShowText(QLineEdit& box, const std::string& text) {
+  const QString shown = QString::fromStdString(text);
+  box.setProperty(kShown, shown);
+  if (box.text() != shown) box.setText(shown);
+  box.setModified(false);
+}
+
 void ShowNumber(QLineEdit& box, double value, const NumberFormat& format) {
-  Show(box, platform::FixedText(value, format.decimals));
+  ShowText(box, platform::FixedText(value, format.decimals));
 }
 
 std::optional<double> TakeNumber(QLineEdit& box, double stored, const NumberFormat& format) {
-  return Take(box, stored, [&](const std::string& text) {
-    return host::text::ReadNumberField(text, format.range);
-  });
+  return IsEdited(box) ? ReadNumber(box, format.range) : stored;
 }
 
-void ShowInteger(QLineEdit& box, long long value) { Show(box, std::to_string(value)); }
+std::optional<double> ReadNumber(QLineEdit& box, host::text::FieldRange range) {
+  return Accept(box, host::text::ReadNumberField(box.text().toStdString(), range));
+}
+
+void ShowInteger(QLineEdit& box, long long value) { ShowText(box, std::to_string(value)); }
 
 std::optional<long long> TakeInteger(QLineEdit& box, long long stored,
                                      host::text::FieldRange range) {
-  return Take(box, stored,
-              [&](const std::string& text) { return host::text::ReadIntegerField(text, range); });
+  if (!IsEdited(box)) return stored;
+  return Accept(box, host::text::ReadIntegerField(box.text().toStdString(), range));
 }
 
 bool IsEdited(const QLineEdit& box) { return box.text() != box.property(kShown).toString(); }

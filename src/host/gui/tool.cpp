@@ -89,4 +89,9 @@ void Tool::SetNeedToBuild(int need) {
   if (flagListener_) flagListener_();
 }
 
+void Tool::MarkModified() {
+  if (buildsOnChange_) SetNeedToBuild(1);
+  SetNeedToSave(1);
+}
+
 }  // namespace Framework

@@ -62,6 +62,8 @@ class Tool : public OstTool, public DynamicObject {
 
   void SetNeedToSave(int need);
   void SetNeedToBuild(int need);
+  /// An edit of the tool's data: they need a save and, while the build flag is on, a build.
+  void MarkModified();
   [[nodiscard]] bool NeedToSave() const noexcept { return needToSave_; }
   [[nodiscard]] bool NeedToBuild() const noexcept { return needToBuild_; }
   /// The build flag: whether an edit of this tool's data asks for a build.

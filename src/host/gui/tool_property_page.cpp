@@ -16,10 +16,7 @@ void ToolPropertyPage::InitDialog() { UpdateData(0); }
 int ToolPropertyPage::UpdateData(int /*save*/) { return 1; }
 
 void ToolPropertyPage::Modified() {
-  Tool* tool = GetTool();
-  if (!tool) return;
-  tool->SetNeedToSave(1);
-  if (tool->BuildsOnChange()) tool->SetNeedToBuild(1);
+  if (Tool* tool = GetTool()) tool->MarkModified();
 }
 
 QWidget* ToolPropertyPage::Window() {

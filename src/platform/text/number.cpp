@@ -118,10 +118,10 @@ std::string FixedText(double value, int decimals) {
   return text;
 }
 
-std::string GeneralText(double value) {
+std::string GeneralText(double value, int digits) {
   char text[32];
   const auto end =
-      std::to_chars(text, text + sizeof text, value, std::chars_format::general, 6).ptr;
+      std::to_chars(text, text + sizeof text, value, std::chars_format::general, digits).ptr;
   return std::string(text, end);
 }
 

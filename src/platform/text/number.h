@@ -20,8 +20,8 @@ namespace platform {
 
 /// `value` in fixed notation with that many decimals, as "%.*f" prints it in the C locale.
 [[nodiscard]] std::string FixedText(double value, int decimals);
-/// As "%g" prints it in the C locale.
-[[nodiscard]] std::string GeneralText(double value);
+/// With up to that many (17 at most) significant digits, as "%.*g" prints it in the C locale.
+[[nodiscard]] std::string GeneralText(double value, int digits = 6);
 /// The shortest text that reads back as the same double.
 [[nodiscard]] std::string ShortestText(double value);
 

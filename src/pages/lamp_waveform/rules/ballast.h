@@ -23,7 +23,7 @@ struct BallastMaker {
 /// The makers whose ballasts know compensation pulses.
 inline constexpr std::uint8_t kAntiFlatterMaker = 0;
 inline constexpr std::uint8_t kSPulseMaker = 1;
-[[nodiscard]] constexpr bool HasCompensation(std::uint8_t code) noexcept {
+[[nodiscard]] constexpr bool HasCompensation(std::int32_t code) noexcept {
   return code == kAntiFlatterMaker || code == kSPulseMaker;
 }
 

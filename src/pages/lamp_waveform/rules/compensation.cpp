@@ -17,15 +17,32 @@ namespace {
 
 constexpr long long kLeastRatio = 101;
 
-/// Segments of one revolution of the timeline.
-std::size_t RevolutionLength(const SequenceTiming::SeqTimeline& timeline,
-                             const GUIInputsData& data) {
+/// Segments of one revolution of the timeline; nothing where there is no whole one.
+std::optional<std::size_t> RevolutionLength(const SequenceTiming::SeqTimeline& timeline,
+                                            const GUIInputsData& data) {
+  if (!IsTimed(timeline)) return std::nullopt;
   const int frames = ZelUtils::GetNumFramesForSpinFactor(
       data.CurrentSpinFactor, data.CurrentGroupType == k3dGroup, false, data.CurrentGroupType);
   // A timeline without segments may come of a spin factor that no index can count.
   if (timeline.Segments().empty()) return 0;
   const auto revolutions = static_cast<std::uint16_t>(frames * data.CurrentSpinFactor);
-  return revolutions == 0 ? 0 : timeline.Segments().size() / revolutions;
+  if (revolutions == 0) return std::nullopt;
+  return timeline.Segments().size() / revolutions;
+}
+
+/// Nothing where nothing is known of spokes.
+std::optional<std::vector<std::string>> FindSpokes(const GUIInputsData& data) {
+  const SequenceTiming::SeqTimeline timeline = SelectedTimeline(data);
+  const auto count = RevolutionLength(timeline, data);
+  if (!count) return std::nullopt;
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < *count; ++i) {
+    const SequenceTiming::SeqSegment& segment = timeline.Segments()[i];
+    if (segment.name.size() == 1) continue;
+    names.push_back(segment.index2 > 0 ? segment.name + std::to_string(segment.index2)
+                                       : segment.name);
+  }
+  return names;
 }
 
 }  // namespace
@@ -37,25 +54,16 @@ CompensationTexts TextsOf(std::int32_t makerCode) {
   return {"Philips", "Enable Anti-Flatter Pulse Compensation", "Anti-Flatter Pulse?"};
 }
 
-std::vector<std::string> SpokeNames(const GUIInputsData& data) {
-  const SequenceTiming::SeqTimeline timeline = SelectedTimeline(data);
-  const std::size_t count = RevolutionLength(timeline, data);
-  std::vector<std::string> names;
-  for (std::size_t i = 0; i < count; ++i) {
-    const SequenceTiming::SeqSegment& segment = timeline.Segments()[i];
-    if (segment.name.size() == 1) continue;
-    names.push_back(segment.index2 > 0 ? segment.name + std::to_string(segment.index2)
-                                       : segment.name);
+std::vector<SpokePulse> ListSpokes(const GUIInputsData& data, std::map<std::string, bool>& pulses) {
+  const auto names = FindSpokes(data);
+  if (!names) return {};
+  const std::set<std::string> known(names->begin(), names->end());
+  std::erase_if(pulses, [&](const auto& entry) { return !known.contains(entry.first); });
+  std::vector<SpokePulse> spokes;
+  for (const std::string& name : *names) {
+    spokes.push_back({name, pulses.try_emplace(name, false).first->second});
   }
-  return names;
-}
-
-bool FollowSpokes(const std::vector<std::string>& spokes, std::map<std::string, bool>& pulses) {
-  const std::set<std::string> known(spokes.begin(), spokes.end());
-  bool changed =
-      std::erase_if(pulses, [&](const auto& entry) { return !known.contains(entry.first); }) > 0;
-  for (const std::string& spoke : known) changed |= pulses.try_emplace(spoke, false).second;
-  return changed;
+  return spokes;
 }
 
 std::string RatioText(std::int32_t ratio) { return std::to_string(ratio); }

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/calc/seq_timeline.h"
+#include "host/data/spoke_pulse.h"
 #include "model/gui_inputs_data.h"
 
 /// The compensation pulses of a waveform: anti-flatter for one ballast maker, S pulses for another.
@@ -25,13 +25,13 @@ struct CompensationTexts {
 /// By the page's maker code; every code but the S pulse maker's has the texts of anti-flatter.
 [[nodiscard]] CompensationTexts TextsOf(std::int32_t makerCode);
 
-/// The spokes of the selection's first wheel revolution, by name, in wheel order. A spoke is named
-/// by its segment name, and by how often it came before where that is not 0.
-[[nodiscard]] std::vector<std::string> SpokeNames(const GUIInputsData& data);
-
-/// Brings the spoke map to the spokes there are: new ones without a pulse, others erased. True when
-/// the map changed.
-bool FollowSpokes(const std::vector<std::string>& spokes, std::map<std::string, bool>& pulses);
+/// The spokes of the selection's first wheel revolution with their pulses, in wheel order. A spoke
+/// is named by its segment name, and by how often that came before where it did. The map follows
+/// the wheel: new spokes come without a pulse, others are erased. Where the wheel cannot be timed,
+/// for want of a group type, a rate or a whole revolution, nothing is known of its spokes: none are
+/// listed and the map stays.
+[[nodiscard]] std::vector<SpokePulse> ListSpokes(const GUIInputsData& data,
+                                                 std::map<std::string, bool>& pulses);
 
 /// What became of an entered value.
 struct Entered {

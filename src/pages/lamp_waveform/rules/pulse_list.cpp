@@ -20,10 +20,6 @@ struct Stored {
   bool taken = false;
 };
 
-/// A wheel that cannot be timed at all, as opposed to one without segments, tells nothing of
-/// pulses.
-bool IsTimed(const SeqTimeline& timeline) { return timeline.LengthUs() > 0; }
-
 PulseInfo NoPulse(std::string key) { return PulseInfo(false, std::move(key), 1.0, 0.0, 0.0, 0.0); }
 
 }  // namespace
@@ -46,6 +42,8 @@ SeqTimeline WheelTimeline(const ColorWheelData& wheel, const PCGroup* group, dou
 SeqTimeline SelectedTimeline(const GUIInputsData& data) {
   return WheelTimeline(data.ColorWheel, SelectedGroup(data), data.CurrentSpinFactor);
 }
+
+bool IsTimed(const SeqTimeline& timeline) noexcept { return timeline.LengthUs() > 0; }
 
 bool CarriesPulse(const SeqSegment& segment) noexcept { return segment.name.size() < 2; }
 

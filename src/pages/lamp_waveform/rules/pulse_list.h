@@ -23,6 +23,9 @@ inline constexpr const char* k3dGroup = "3D";
                                                         const PCGroup* group, double spin);
 /// The timeline of the data's selection.
 [[nodiscard]] SequenceTiming::SeqTimeline SelectedTimeline(const GUIInputsData& data);
+/// A wheel that cannot be timed at all, as opposed to one without segments, tells nothing of pulses
+/// and spokes.
+[[nodiscard]] bool IsTimed(const SequenceTiming::SeqTimeline& timeline) noexcept;
 
 /// Spokes carry no pulse.
 [[nodiscard]] bool CarriesPulse(const SequenceTiming::SeqSegment& segment) noexcept;

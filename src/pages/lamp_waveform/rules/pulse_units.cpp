@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "platform/text/fill.h"
+#include "platform/text/number.h"
 
 namespace lamp_waveform {
 namespace {
@@ -14,6 +15,7 @@ constexpr double kMicroseconds = 1e6;
 constexpr double kTurn = 360.0;
 constexpr double kPercent = 100.0;
 constexpr double kNoRate = -1.0;
+constexpr int kFieldDigits = 10;
 
 /// Percent of a stored ratio. A percentage that was entered with few decimals comes back as it was,
 /// though its hundredth may be no double: it is compared with limits.
@@ -51,6 +53,8 @@ double DegreesOf(double microseconds, double rateHz) noexcept {
 double MicrosecondsOf(double degrees, double rateHz) noexcept {
   return degrees / kTurn * (kMicroseconds / rateHz);
 }
+
+std::string FieldText(double value) { return platform::GeneralText(value, kFieldDigits); }
 
 PulseValues ValuesOf(const PulseInfo& pulse, double rateHz) {
   return {.amplitude = PercentOf(pulse.m_Amp),

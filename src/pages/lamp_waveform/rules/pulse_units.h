@@ -33,6 +33,9 @@ struct PulseValues {
 [[nodiscard]] double DegreesOf(double microseconds, double rateHz) noexcept;
 [[nodiscard]] double MicrosecondsOf(double degrees, double rateHz) noexcept;
 
+/// A value in an entry field: up to 10 significant digits.
+[[nodiscard]] std::string FieldText(double value);
+
 [[nodiscard]] PulseValues ValuesOf(const PulseInfo& pulse, double rateHz);
 [[nodiscard]] PulseInfo MakePulse(bool isPulse, const std::string& key, const PulseValues& values,
                                   double rateHz);

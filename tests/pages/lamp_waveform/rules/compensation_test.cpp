@@ -10,36 +10,53 @@ namespace {
 
 using lamp_waveform::EnterLength;
 using lamp_waveform::EnterRatio;
-using lamp_waveform::SpokeNames;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using Spokes = std::map<std::string, bool>;
+
+std::string Names(const GUIInputsData& data) {
+  Spokes pulses;
+  std::string names;
+  for (const SpokePulse& spoke : lamp_waveform::ListSpokes(data, pulses)) {
+    EXPECT_FALSE(pulses.at(spoke.Spoke));
+    names += spoke.Spoke + " ";
+  }
+  return names;
+}
 
 TEST(Spokes, AreThoseOfOneRevolution) {
   GUIInputsData data = waveform_test::MakeInputs();
   for (const double spin : {1.0, 2.0, 2.5, 2.2, 3.0}) {
     data.CurrentSpinFactor = spin;
     data.CurrentGroupType = "2D";
-    EXPECT_THAT(SpokeNames(data), ElementsAre("RG", "GB", "BR")) << spin;
+    EXPECT_EQ(Names(data), "RG GB BR ") << spin;
     data.CurrentGroupType = "3D";
-    EXPECT_THAT(SpokeNames(data), ElementsAre("RG", "GB", "BR")) << spin;
+    EXPECT_EQ(Names(data), "RG GB BR ") << spin;
   }
   // A name that comes again has its number behind it.
   auto& segments = data.ColorWheel.Segments;
   segments = {segments[0], segments[1], segments[0], segments[1], segments[0], segments[1]};
-  EXPECT_THAT(SpokeNames(data), ElementsAre("RG", "GR", "RG1", "GR1", "RG2", "GR2"));
-  data.CurrentSpinFactor = 0.00001;
-  EXPECT_THAT(SpokeNames(data), IsEmpty());
-  data.CurrentSpinFactor = 1e9;
-  EXPECT_THAT(SpokeNames(data), IsEmpty());
+  EXPECT_EQ(Names(data), "RG GR RG1 GR1 RG2 GR2 ");
 }
 
 TEST(Spokes, TheMapFollowsTheWheel) {
-  Spokes pulses{{"RG", true}, {"GB", false}};
-  EXPECT_FALSE(lamp_waveform::FollowSpokes({"RG", "GB"}, pulses));
-  EXPECT_TRUE(lamp_waveform::FollowSpokes({"RG", "GW"}, pulses));
-  EXPECT_EQ(pulses, (Spokes{{"RG", true}, {"GW", false}}));
-  EXPECT_TRUE(lamp_waveform::FollowSpokes({}, pulses));
+  GUIInputsData data = waveform_test::MakeInputs();
+  Spokes pulses{{"RG", true}, {"GB", false}, {"GW", true}};
+  const auto spokes = lamp_waveform::ListSpokes(data, pulses);
+  EXPECT_TRUE(spokes.at(0).Applied);
+  EXPECT_EQ(pulses, (Spokes{{"RG", true}, {"GB", false}, {"BR", false}}));
+  // Without a timeline nothing is known of spokes.
+  for (const double spin : {0.00001, 1e9}) {
+    data.CurrentSpinFactor = spin;
+    EXPECT_THAT(lamp_waveform::ListSpokes(data, pulses), IsEmpty());
+    EXPECT_EQ(pulses.size(), 3);
+  }
+  data = waveform_test::MakeInputs();
+  data.PCGroups[0].Rates.clear();
+  EXPECT_THAT(lamp_waveform::ListSpokes(data, pulses), IsEmpty());
+  EXPECT_EQ(pulses.size(), 3);
+  data = waveform_test::MakeInputs();
+  data.ColorWheel.SpokeSize = 0;
+  EXPECT_THAT(lamp_waveform::ListSpokes(data, pulses), IsEmpty());
   EXPECT_THAT(pulses, IsEmpty());
 }
 
