@@ -101,6 +101,7 @@ struct ChartPlot::Private {
   QCPItemTracer* tracer = nullptr;
   QCPItemText* readOut = nullptr;
   bool legend = true;
+  bool legendStale = true;
   std::optional<bool> legendBelow;
   bool settingView = false;
 };
@@ -114,6 +115,8 @@ ChartPlot::Private::Private(ChartPlot& chart) : owner(chart), plot(new Plot(&cha
   plot->setMinimumSize(50, 50);
   plot->legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
   QObject::connect(plot, &QCustomPlot::beforeReplot, &chart, [this] {
+    // Once for all series that came since.
+    if (std::exchange(legendStale, false)) FillLegend();
     FitLegend();
     FitTicks();
   });
@@ -179,7 +182,6 @@ void ChartPlot::Private::FillLegend() {
   };
   for (const Drawn& drawn : series) add(drawn.plottable);
   for (const Area& area : areas) add(area.upper);
-  FitLegend();
 }
 
 /// As many columns as have room for the widest entry; no legend that leaves too little of the plot.
@@ -322,7 +324,7 @@ void ChartPlot::SetScale(Axis axis, LineChart::Scale scale) {
 
 void ChartPlot::SetLegendVisible(bool visible) {
   d_->legend = visible;
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::SetWheelZooms(bool zooms) { d_->plot->setInteraction(QCP::iRangeZoom, zooms); }
@@ -376,14 +378,14 @@ QPointF ChartPlot::Pixel(const QPointF& point) const {
 
 void ChartPlot::AddSeries(const ChartSeries& series) {
   d_->series.push_back(d_->Draw(series));
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::ReplaceSeries(int number, const ChartSeries& series) {
   Private::Drawn& drawn = d_->series.at(static_cast<std::size_t>(number));
   d_->plot->removePlottable(drawn.plottable);
   drawn = d_->Draw(series);
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::AddArea(const QString& name, const QList<QPointF>& lower,
@@ -392,7 +394,7 @@ void ChartPlot::AddArea(const QString& name, const QList<QPointF>& lower,
   area.upper->setName(name);
   area.upper->setChannelFillGraph(area.lower);
   d_->areas.push_back(area);
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::AddBand(Axis axis, Range range, const QString& name) {
@@ -432,7 +434,7 @@ void ChartPlot::Clear() {
   d_->bands.clear();
   d_->markers.clear();
   d_->texts.clear();
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::ShowCursor(const QPointF& point, const QString& text) {
