@@ -16,6 +16,17 @@ using platform::xml::TextForm;
 using zel::archive::nvp;
 namespace flags = zel::archive::flags;
 
+/// An object with one member, "value".
+template <class T>
+struct Value {
+  T value{};
+  bool operator==(const Value&) const = default;
+  template <class Archive>
+  void serialize(Archive& ar, unsigned) {
+    ar& nvp("value", value);
+  }
+};
+
 /// The object as the output archive writes it, as bare text.
 template <class T>
 std::string Written(T& object, const char* name = "ModuleOutputs",
