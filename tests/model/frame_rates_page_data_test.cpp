@@ -9,7 +9,6 @@
 
 namespace {
 
-using archive_test::Read;
 using archive_test::ReadContent;
 using archive_test::Written;
 
@@ -35,19 +34,6 @@ TEST(SysDefFrameRatesPageData, ReadsAndWritesItsElements) {
   data.FreqBinTable[0].label = "not stored";
   data.displayTable = data.FreqBinTable;
   EXPECT_EQ(Written(data, "Inputs"), "<Inputs>" + std::string(kContent) + "</Inputs>");
-}
-
-TEST(SysDefFrameRatesPageData, IsTwoEmptyListsByItself) {
-  SysDefFrameRatesPageData data;
-  const std::string text = Written(data, "Inputs");
-  EXPECT_EQ(text,
-            "<Inputs><FrameRates><count>0</count></FrameRates>"
-            "<FreqBinTable><count>0</count></FreqBinTable></Inputs>");
-  data.FrameRates = {1};
-  data.FreqBinTable.resize(1);
-  Read(text, data);
-  EXPECT_TRUE(data.FrameRates.empty());
-  EXPECT_TRUE(data.FreqBinTable.empty());
 }
 
 }  // namespace

@@ -63,13 +63,4 @@ TEST(IlluminatorsPageData, TakesACountOutOfBoundsAsEight) {
   EXPECT_FALSE(three.allowed[3]);
 }
 
-TEST(IlluminatorsPageData, KnowsItsTypesByItself) {
-  const auto data = ReadContent<IlluminatorsPageData>("");
-  EXPECT_EQ(data, IlluminatorsPageData());
-  for (std::size_t i = 0; i < 8; ++i) {
-    EXPECT_EQ(data.characteristics[i].Type, static_cast<int>(i));
-    EXPECT_EQ(data.characteristics[i].Row, i < 3 ? static_cast<int>(i) : -1);
-  }
-}
-
 }  // namespace

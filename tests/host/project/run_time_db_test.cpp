@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "host/project/ost_exception.h"
+#include "support/fault_of.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -153,13 +154,9 @@ TEST(RunTimeDB, DamagedFilesAreRefusedInOneLineThatNamesThem) {
   for (const char* bytes : {"", "<RunTimeDB>", "<Other/>", "<RunTimeDB><a></b></RunTimeDB>", "\0",
                             "<!DOCTYPE RunTimeDB><RunTimeDB/>"}) {
     const auto file = folder.Write("bad.xml", bytes);
-    try {
-      const RunTimeDB database(file);
-      ADD_FAILURE() << "opened: " << bytes;
-    } catch (const OstException& error) {
-      EXPECT_THAT(error.what(), HasSubstr(file.string() + ":"));
-      EXPECT_EQ(std::string(error.what()).find('\n'), std::string::npos);
-    }
+    const std::string fault = test::FaultOf<OstException>([&] { const RunTimeDB database(file); });
+    EXPECT_THAT(fault, HasSubstr(file.string() + ":")) << bytes;
+    EXPECT_EQ(fault.find('\n'), std::string::npos);
   }
 }
 
