@@ -139,13 +139,6 @@ TEST_F(CommandLine, DamagedProjectsAreOneLineAndStatusThree) {
   }
 }
 
-TEST_F(CommandLine, MissingDatabaseIsAnEmptyOne) {
-  command_.Remove(kDatabase);
-  EXPECT_EQ(command_.Run({"check", kProject}).status, 0);
-  EXPECT_EQ(command_.Run({"show", kProject}).err, "");
-  EXPECT_FALSE(command_.Exists(kDatabase));
-}
-
 // A stylesheet of the project stands in for the installed one, a broken one too: the page must not
 // be opened with defaults that the next apply would write over real data.
 TEST_F(CommandLine, BrokenStylesheetIsNamedWithItsLine) {

@@ -178,6 +178,8 @@ TEST(PointerGraph, ClassNamesAreWrittenForPolymorphicClasses) {
             "<value clsid=\"1\" clsnm=\"Circle\" trklvl=\"1\" version=\"4\" objid=\"0\">"
             "<base clsid=\"2\" trklvl=\"1\" version=\"0\" objid=\"1\"><name/></base>"
             "<radius>0</radius></value></O>");
+  EXPECT_NE(Written(one, "O", kFullLong).find("<value class_id=\"1\" class_name=\"Circle\" "),
+            std::string::npos);
   one.value = nullptr;
   EXPECT_EQ(Written(one, "O", kFull),
             "<O clsid=\"0\" trklvl=\"0\" version=\"0\"><value clsid=\"-1\"/></O>");

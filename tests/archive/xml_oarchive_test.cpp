@@ -20,7 +20,6 @@ using archive_test::Document;
 using archive_test::TextForm;
 using archive_test::Written;
 using platform::xml::XmlError;
-using zel::archive::class_info;
 using zel::archive::nvp;
 using zel::archive::xml_archive_exception;
 using zel::archive::xml_oarchive;
@@ -129,26 +128,6 @@ TEST(XmlOarchive, RootAndClassInformationFollowTheFlags) {
             "<P class_id=\"0\" tracking_level=\"0\" version=\"0\">"
             "<first class_id=\"1\" tracking_level=\"0\" version=\"2\"><index>7</index></first>"
             "<second><index>7</index></second></P>");
-}
-
-TEST(XmlOarchive, ClassInformationHasItsNameInEachNaming) {
-  const auto all = [](xml_oarchive& archive) {
-    archive.save_start("e");
-    for (const class_info info :
-         {class_info::class_id, class_info::class_id_reference, class_info::object_id,
-          class_info::object_id_reference, class_info::tracking_level, class_info::version}) {
-      archive.save_info(info, 4);
-    }
-    archive.save_class_name("Key");
-    archive.save_end("e");
-  };
-  EXPECT_EQ(Told(flags::kNoRoot, all),
-            "<e clsid=\"4\" clsref=\"4\" objid=\"4\" objref=\"4\" trklvl=\"4\" version=\"4\" "
-            "clsnm=\"Key\"/>");
-  EXPECT_EQ(Told(flags::kNoRoot | flags::kLongNames, all),
-            "<e class_id=\"4\" class_id_reference=\"4\" object_id=\"_4\" "
-            "object_id_reference=\"_4\" tracking_level=\"4\" version=\"4\" class_name=\"Key\"/>");
-  EXPECT_EQ(Told(flags::kPageTransfer, all), "<e/>");
 }
 
 TEST(XmlOarchive, AValueCanBecomeAnAttribute) {

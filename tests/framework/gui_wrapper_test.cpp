@@ -188,16 +188,6 @@ TEST_F(GUIWrapperTest, AStylesheetThatIsThereAndCannotBeOpenedThrows) {
             "Cannot open archive for input: " + folder.string());
 }
 
-TEST_F(GUIWrapperTest, AStylesheetThatDoesNotLoadLeavesThePolicyInvalid) {
-  folder_.Write("support/bad.xsl", "<xsl:stylesheet");
-  folder_.Write("support/not.xsl", "<html/>");
-  Configure();
-  for (const char* file : {"bad.xsl", "not.xsl"}) {
-    wrapper_->ConfigureInTransform({file});
-    EXPECT_FALSE(wrapper_->InTransformLoaded()) << file;
-  }
-}
-
 TEST_F(GUIWrapperTest, ImportTakesAWholeObjectOrNone) {
   Configure();
   wrapper_->InitDialog();
