@@ -127,6 +127,9 @@ TEST_F(DynamicDataGrid, BlocksAreTheRunsOfRowsWithASelectedCell) {
     selection.select(grid.model()->index(row, column), QItemSelectionModel::Select);
   }
   EXPECT_THAT(grid.SelectedRowBlocks(), ElementsAre(Pair(1, 2), Pair(4, 4)));
+  const QAbstractItemModel& model = *grid.model();
+  selection.select({model.index(0, 0), model.index(5, 0)}, QItemSelectionModel::Select);
+  EXPECT_THAT(grid.SelectedRowBlocks(), ElementsAre(Pair(0, 5))) << "one block within another";
   grid.SelectBlocks({{0, 0}, {4, 5}, {9, 9}});
   EXPECT_THAT(grid.SelectedBlocks(), ElementsAre(Pair(0, 0), Pair(4, 5)));
 }

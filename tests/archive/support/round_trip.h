@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <string>
 
@@ -50,6 +52,16 @@ void Read(const std::string& text, T& object, const char* name = "Inputs",
 template <class T>
 T ReadContent(const std::string& content, T object = T()) {
   Read("<Inputs>" + content + "</Inputs>", object);
+  return object;
+}
+
+/// Reads the content of an element and expects it to be written again as it stands. The content is
+/// literal, in stored order, and none of its values is a default, so that a member that is not
+/// stored shows.
+template <class T>
+T ExpectStored(const std::string& content) {
+  T object = ReadContent<T>(content);
+  EXPECT_EQ(Written(object), "<ModuleOutputs>" + content + "</ModuleOutputs>");
   return object;
 }
 

@@ -12,17 +12,9 @@
 
 namespace {
 
+using archive_test::ExpectStored;
 using archive_test::ReadContent;
 using archive_test::Written;
-
-/// Reads the content and expects it to be written again as it stands. The content is literal, in
-/// stored order, and none of its values is a default, so that a member that is not stored shows.
-template <class T>
-T ExpectStored(const std::string& content) {
-  T object = ReadContent<T>(content);
-  EXPECT_EQ(Written(object), "<ModuleOutputs>" + content + "</ModuleOutputs>");
-  return object;
-}
 
 TEST(HostData, PixmeldControlData) {
   ExpectStored<PixmeldControlData>(

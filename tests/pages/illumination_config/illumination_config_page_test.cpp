@@ -260,6 +260,8 @@ TEST(IlluminationConfigPage, SourcesAreAddedUpToEightAndDeleted) {
   const IlluminationConfigurationData data = page.Now();
   EXPECT_EQ(data.Sources[0].BaseColor, IllumCharacteristics::kRed);
   EXPECT_EQ(data.Sources[0].WheelNumber, 1) << "wheels are numbered anew";
+  EXPECT_EQ(data.Sources[1].IsLed, 0);
+  EXPECT_EQ(data.Sources[1].BaseColor, IllumCharacteristics::kWhite);
   EXPECT_EQ(data.Sources[2].IsLed, 1);
   EXPECT_EQ(data.Sources[3].SlotMarker, IllumCharacteristics::kFreeSlot);
   ASSERT_THAT(data.Wheels, SizeIs(1));

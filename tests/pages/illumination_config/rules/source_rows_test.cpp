@@ -102,7 +102,7 @@ TEST(WheelTotal, RefusesWhatNoTurnHolds) {
   EXPECT_EQ(illumination_config::TotalRefusal(0, total), std::nullopt);
   EXPECT_NE(illumination_config::TotalRefusal(1, -0.01), std::nullopt);
   EXPECT_EQ(illumination_config::TotalRefusal(1, 360), std::nullopt);
-  EXPECT_EQ(illumination_config::TotalRefusal(3, 100.1 + 100.2 + 159.7), std::nullopt);
+  EXPECT_EQ(illumination_config::TotalRefusal(3, 0.1 + 258.6 + 101.3), std::nullopt);
 }
 
 TEST(ConfigurationCheck, SaysWhatIsWrong) {
