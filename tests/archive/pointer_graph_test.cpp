@@ -308,6 +308,15 @@ TEST(PointerGraph, AFailedLoadLeaksNothing) {
   EXPECT_THROW(archive >> nvp("R", read), archive_exception);
   archive.delete_created_pointers();
 
+  Member member;
+  zel::archive::xml_iarchive other(
+      archive_test::Document::Parse(
+          "<M clsid=\"0\" trklvl=\"0\" version=\"0\"><before clsid=\"1\" trklvl=\"1\" "
+          "version=\"0\" objid=\"0\"/><node objref=\"0\"/></M>"),
+      kFull | flags::kTolerateMissing);
+  EXPECT_EQ(Fault([&] { other >> nvp("M", member); }), "pointer conflict") << "held by value";
+  other.delete_created_pointers();
+
   One<std::unique_ptr<Circle>> unique;
   EXPECT_THROW(Read("<O><value><radius>x</radius></value></O>", unique, "O"), archive_exception);
   One<std::shared_ptr<Circle>> shared;
