@@ -15,6 +15,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -49,7 +50,7 @@ MainWindow::MainWindow() {
   setCentralWidget(BuildCentre());
   BuildLog();
   BuildActions();
-  resize(kFirstSize);
+  resize(kFirstSize.boundedTo(screen()->availableSize()));
   restoreGeometry(QSettings().value(QStringLiteral("geometry")).toByteArray());
   restoreState(QSettings().value(QStringLiteral("windowState")).toByteArray());
   splitter_->restoreState(QSettings().value(QStringLiteral("splitter")).toByteArray());

@@ -30,7 +30,7 @@ class XMLInTransformPolicy : public TransformPolicyBase {
   bool Transform(const RunTimeDB& database, Data& data) const {
     if (!valid_) return true;
     if (!stylesheet_) return false;
-    const auto inputs = Run(database.GetDOM(neededFragments_));
+    const auto inputs = Run(database, platform::xml::Element());
     return inputs && XMLDOMMgr<Data>(*inputs).Load(data, "Inputs");
   }
 };

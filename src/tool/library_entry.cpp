@@ -10,12 +10,14 @@
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
+#include "model/gui_inputs_data.h"
 #include "pages/color_wheel/color_wheel_page.h"
 #include "pages/frame_rates/sys_def_frame_rates_page.h"
 #include "pages/illumination_config/illumination_config_page.h"
 #include "pages/illuminators/illuminators_page.h"
 #include "pages/lamp_aging/slr_pulse_page.h"
 #include "pages/lamp_optics/lamp_optics_page.h"
+#include "pages/lamp_waveform/sys_def_lamp_waveform_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
 #include "tool/vesk_sys_def_tool_frame.h"
@@ -43,6 +45,8 @@ const XMLPageInstantiator<SysDefFrameRatesPage, SysDefFrameRatesPageData> kFrame
 const XMLPageInstantiator<ids::SysDefIllumConfigPage, IlluminationConfigurationData>
     kIlluminationConfig("IlluminatorConfigPage");
 const XMLPageInstantiator<SysDefLampOpticsPage, LampOpticsData> kLampOptics("LampOpticsPage");
+const XMLPageInstantiator<ids::SysDefLampWaveformPage, GUIInputsData> kLampWaveform(
+    "SysDefLampWaveformPage");
 
 const Framework::ExtensionModule& Module() {
   static const Framework::ExtensionModule module{

@@ -149,8 +149,8 @@
         <VIDarkPulseInfo><xsl:apply-templates select="DarkPulse/@*"/></VIDarkPulseInfo>
       </xsl:if>
       <BitwSelectRateFlags>
-        <count><xsl:value-of select="count(Rate)"/></count>
-        <xsl:apply-templates select="Rate" mode="flag"/>
+        <count><xsl:value-of select="count(Rate/@hertz)"/></count>
+        <xsl:apply-templates select="Rate[@hertz]" mode="flag"/>
       </BitwSelectRateFlags>
     </item>
   </xsl:template>

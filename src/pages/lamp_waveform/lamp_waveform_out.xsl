@@ -314,16 +314,16 @@
       <xsl:attribute name="title"><xsl:value-of select="Title"/></xsl:attribute>
       <xsl:for-each select="$kept/*">
         <xsl:choose>
-          <xsl:when test="self::Rate">
+          <xsl:when test="self::Rate[@hertz]">
             <xsl:call-template name="rate">
               <xsl:with-param name="group" select="$group"/>
-              <xsl:with-param name="number" select="count(preceding-sibling::Rate) + 1"/>
+              <xsl:with-param name="number" select="count(preceding-sibling::Rate/@hertz) + 1"/>
               <xsl:with-param name="kept" select="."/>
             </xsl:call-template>
           </xsl:when>
-          <xsl:when test="self::SpinFactor">
+          <xsl:when test="self::SpinFactor[@ratio]">
             <xsl:call-template name="spinFactor">
-              <xsl:with-param name="factor" select="$group/SpinFactors/item[count(current()/preceding-sibling::SpinFactor) + 1]"/>
+              <xsl:with-param name="factor" select="$group/SpinFactors/item[count(current()/preceding-sibling::SpinFactor/@ratio) + 1]"/>
               <xsl:with-param name="kept" select="."/>
             </xsl:call-template>
           </xsl:when>
@@ -335,22 +335,14 @@
           <xsl:otherwise><xsl:copy-of select="."/></xsl:otherwise>
         </xsl:choose>
       </xsl:for-each>
-      <xsl:variable name="rates" select="count($kept/Rate)"/>
+      <xsl:variable name="rates" select="count($kept/Rate/@hertz)"/>
       <xsl:for-each select="Rates/item[position() &gt; $rates]">
         <xsl:call-template name="rate">
           <xsl:with-param name="group" select="$group"/>
           <xsl:with-param name="number" select="$rates + position()"/>
         </xsl:call-template>
       </xsl:for-each>
-      <!-- There may be more flags than rates. -->
-      <xsl:variable name="said" select="$rates + count(Rates/item[position() &gt; $rates])"/>
-      <xsl:for-each select="BitwSelectRateFlags/item[position() &gt; $said]">
-        <xsl:call-template name="rate">
-          <xsl:with-param name="group" select="$group"/>
-          <xsl:with-param name="number" select="$said + position()"/>
-        </xsl:call-template>
-      </xsl:for-each>
-      <xsl:variable name="factors" select="count($kept/SpinFactor)"/>
+      <xsl:variable name="factors" select="count($kept/SpinFactor/@ratio)"/>
       <xsl:for-each select="SpinFactors/item[position() &gt; $factors]">
         <xsl:call-template name="spinFactor">
           <xsl:with-param name="factor" select="."/>
@@ -368,12 +360,10 @@
     <xsl:param name="kept" select="/.."/>
     <xsl:variable name="rate" select="$group/Rates/item[$number]"/>
     <xsl:variable name="flag" select="$group/BitwSelectRateFlags/item[$number]"/>
-    <xsl:if test="$rate or $flag">
+    <xsl:if test="$rate">
       <Rate>
         <xsl:copy-of select="$kept/@*"/>
-        <xsl:if test="$rate">
-          <xsl:attribute name="hertz"><xsl:value-of select="$rate"/></xsl:attribute>
-        </xsl:if>
+        <xsl:attribute name="hertz"><xsl:value-of select="$rate"/></xsl:attribute>
         <xsl:if test="$kept/@selected or $flag = 1 or ($flag and not($kept))">
           <xsl:attribute name="selected"><xsl:value-of select="$flag = 1"/></xsl:attribute>
         </xsl:if>
