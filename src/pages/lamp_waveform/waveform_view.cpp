@@ -338,7 +338,6 @@ void WaveformView::wheelEvent(QWheelEvent* event) {
 
 void WaveformView::keyPressEvent(QKeyEvent* event) {
   const bool pans = event->modifiers().testFlag(Qt::ControlModifier);
-  const double middle = (window_.From() + window_.To()) / 2;
   switch (event->key()) {
     case Qt::Key_Left:
       pans ? window_.Pan(-kPanShare * window_.Length()) : Step(-1);
@@ -352,10 +351,10 @@ void WaveformView::keyPressEvent(QKeyEvent* event) {
       break;
     case Qt::Key_Plus:
     case Qt::Key_Equal:
-      window_.Zoom(middle, kZoomStep);
+      window_.Zoom(ZoomPlace(), kZoomStep);
       break;
     case Qt::Key_Minus:
-      window_.Zoom(middle, 1 / kZoomStep);
+      window_.Zoom(ZoomPlace(), 1 / kZoomStep);
       break;
     case Qt::Key_Home:
       window_.ShowAll();
@@ -364,6 +363,13 @@ void WaveformView::keyPressEvent(QKeyEvent* event) {
       return QWidget::keyPressEvent(event);
   }
   update();
+}
+
+/// The keyboard zooms about the selected segment where that is visible.
+double WaveformView::ZoomPlace() const {
+  const StripPart* part = selected_ ? PartOf(*selected_) : nullptr;
+  if (part && IsShown(part->startUs, part->endUs)) return (part->startUs + part->endUs) / 2;
+  return (window_.From() + window_.To()) / 2;
 }
 
 void WaveformView::Step(int by) {

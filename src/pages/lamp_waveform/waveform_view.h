@@ -76,6 +76,7 @@ class WaveformView : public QWidget {
   void DrawFrame(QPainter& painter) const;
   [[nodiscard]] QColor FillOf(const StripPart& part) const;
 
+  [[nodiscard]] double ZoomPlace() const;
   void Step(int by);
   void Describe();
 
