@@ -15,6 +15,7 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
@@ -49,7 +50,7 @@ MainWindow::MainWindow() {
   setCentralWidget(BuildCentre());
   BuildLog();
   BuildActions();
-  resize(kFirstSize);
+  resize(kFirstSize.boundedTo(screen()->availableSize()));
   restoreGeometry(QSettings().value(QStringLiteral("geometry")).toByteArray());
   restoreState(QSettings().value(QStringLiteral("windowState")).toByteArray());
   splitter_->restoreState(QSettings().value(QStringLiteral("splitter")).toByteArray());
@@ -217,18 +218,17 @@ void MainWindow::ShowSession(const std::string& file) {
 void MainWindow::LockProject() {
   lock_ = std::make_unique<Framework::ProjectLock>(session_->Database().File());
   if (lock_->Acquire()) return;
-  const std::string question =
-      "The project is held by " + lock_->Holder() + ". Open it to look at only?";
+  const std::string question = lock_->Obstacle() + ". Open it to look at only?";
   const int answer =
       ShowMessageBox(question, "Project in Use", msgbox::kYesNo | msgbox::kIconQuestion);
   if (answer == msgbox::kAnswerNo) {
-    throw OstException(session_->Project().File().string() + ": held by " + lock_->Holder());
+    throw OstException(session_->Project().File().string() + ": not opened. " + lock_->Obstacle());
   }
 }
 
 void MainWindow::TakeOverLock() {
   const std::string question =
-      "The project is held by " + lock_->Holder() +
+      lock_->Obstacle() +
       ". Remove its lock? What the other program saves from now on may be lost.";
   const int answer = ShowMessageBox(
       question, "Project in Use", msgbox::kYesNo | msgbox::kIconWarning | msgbox::kDefaultButton2);
@@ -308,7 +308,7 @@ void MainWindow::Revert() {
 bool MainWindow::Save() {
   if (!session_) return true;
   if (!lock_->Held()) {
-    TellFailure("The project is open to look at only: it is held by " + lock_->Holder() + ".");
+    TellFailure("The project is open to look at only. " + lock_->Obstacle() + ".");
     return false;
   }
   const std::string refused = session_->Pages().ApplyAll();

@@ -32,6 +32,11 @@ QString CellText(const Table& table, int row, int column) {
   return table.Checked(row, column) ? (Mark(true) + text).trimmed() : text;
 }
 
+/// Whether it holds a text; a picture may have a description, which can be long.
+bool IsField(const QWidget& widget) {
+  return widget.property("text").isValid() || widget.property("currentText").isValid();
+}
+
 /// Lines under headings. Values are kept back until something else comes, so that they line up.
 class Writer {
  public:
@@ -119,10 +124,12 @@ class Printer {
     // An empty box shows its hint.
     const auto* line = qobject_cast<const QLineEdit*>(&widget);
     if (line && text.isEmpty()) text = line->placeholderText();
-    const bool drawn = text.isEmpty() && !widget.property("text").isValid() &&
-                       !widget.property("currentText").isValid();
+    const bool drawn = text.isEmpty() && !IsField(widget);
     // A named frame around others says nothing of its own.
     if (drawn) return Inside(widget);
+    if (!IsField(widget)) {
+      return writer_.Line(names_.value(&widget) + "  " + text.replace('\n', ' '));
+    }
     writer_.Value(names_.value(&widget), text);
   }
 

@@ -7,6 +7,7 @@
 
 #include "host/gui/tool.h"
 #include "host/project/ost_exception.h"
+#include "host/project/run_time_db.h"
 #include "host/project/stylesheet_file.h"
 #include "host/project/support_files.h"
 
@@ -48,13 +49,18 @@ void TransformPolicyBase::LoadStylesheet(const std::vector<const char*>& names) 
   }
 }
 
-std::optional<Document> TransformPolicyBase::Run(const Document& input) const {
-  Processor processor(*stylesheet_);
-  Document output;
-  processor.SetInput(input);
-  processor.SetOutput(output);
-  if (!processor.Transform()) return std::nullopt;
-  return output;
+std::optional<Document> TransformPolicyBase::Run(const RunTimeDB& database,
+                                                 const std::vector<std::string>& fragments,
+                                                 platform::xml::Element last) const {
+  std::optional<Document> made;
+  database.Lend(fragments, last, [&](const Document& input) {
+    Processor processor(*stylesheet_);
+    Document output;
+    processor.SetInput(input);
+    processor.SetOutput(output);
+    if (processor.Transform()) made = output;
+  });
+  return made;
 }
 
 }  // namespace Framework

@@ -35,7 +35,7 @@ class XMLInTransformPolicy : public TransformPolicyBase {
                  Data& data) const {
     if (!valid_) return true;
     if (!stylesheet_) return false;
-    const auto inputs = Run(database.GetDOM(fragments));
+    const auto inputs = Run(database, fragments, platform::xml::Element());
     return inputs && XMLDOMMgr<Data>(*inputs).Load(data, "Inputs");
   }
 };

@@ -34,9 +34,7 @@ class XMLOutTransformPolicy : public TransformPolicyBase {
     // Half an object must not take the place of a whole one, so a failed store ends here.
     if (!XMLDOMMgr<Data>(archive).Store(data, "ModuleOutputs")) return false;
     if (!stylesheet_) return false;
-    platform::xml::Document fragments = database.GetDOM(neededFragments_);
-    fragments.Root().AppendCopy(archive.Root());
-    const auto stored = Run(fragments);
+    const auto stored = Run(database, neededFragments_, archive.Root());
     return stored && database.SetDOM(*stored);
   }
 };

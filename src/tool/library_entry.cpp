@@ -13,6 +13,7 @@
 #include "pages/color_wheel/color_wheel_page.h"
 #include "pages/frame_rates/sys_def_frame_rates_page.h"
 #include "pages/illumination_config/illumination_config_page.h"
+#include "pages/illuminators/illuminators_page.h"
 #include "pages/lamp_aging/slr_pulse_page.h"
 #include "pages/lamp_waveform/sys_def_lamp_waveform_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
@@ -34,6 +35,7 @@ const ClassRegistration<VeskSysDefToolFrame> kFrame(ids::kFrameClassName);
 const ClassRegistration<VeskSysDefToolView> kView(ids::kViewClassName);
 
 const XMLPageInstantiator<SlrPulsePage, LampAgingPageData> kLampAging("SlrPulsePage");
+const XMLPageInstantiator<IlluminatorsPage, IlluminatorsPageData> kIlluminators("IlluminatorsPage");
 const XMLPageInstantiator<PixmeldPage, PixmeldControlData> kPixmeld("PixmeldPage");
 const XMLPageInstantiator<ids::SysDefColorWheelPage, ColorWheelData> kColorWheel("ColorWheelPage");
 const XMLPageInstantiator<SysDefFrameRatesPage, SysDefFrameRatesPageData> kFrameRates(

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QPointF>
 #include <QString>
@@ -15,6 +16,7 @@ struct ChartSeries {
   QString name;
   QList<QPointF> points;
   LineChart::Style style = LineChart::Style::kLine;
+  QColor color = {};  ///< invalid: the theme's
 };
 
 /// The series of a chart and the places on them.

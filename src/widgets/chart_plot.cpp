@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -18,6 +19,9 @@ namespace {
 /// Markers along a line: enough to tell series apart, few enough to see the line.
 constexpr int kMarkersPerSeries = 16;
 constexpr int kMostLegendColumns = 5;
+/// How much of the chart's height the legend may take.
+constexpr double kMostLegendShare = 0.35;
+constexpr int kMostTicks = 5;
 
 constexpr std::array kMarkers{QCPScatterStyle::ssDisc,     QCPScatterStyle::ssSquare,
                               QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond,
@@ -63,6 +67,7 @@ struct ChartPlot::Private {
   struct Drawn {
     QCPAbstractPlottable* plottable = nullptr;
     bool isBars = false;
+    QColor color = {};
   };
   struct Area {
     QCPGraph* lower = nullptr;
@@ -79,7 +84,8 @@ struct ChartPlot::Private {
   QCPItemText* MakeText(const QString& text, Qt::Alignment alignment);
   void FillLegend();
   void PlaceLegend(bool below);
-  void FitLegend() const;
+  void FitLegend();
+  void FitTicks() const;
   void DressAxis(const ChartTheme& theme, const QFont& font, QCPAxis& axis) const;
   void DressSeries(const ChartTheme& theme, int number) const;
   void DressCursor(const ChartTheme& theme, const QFont& font) const;
@@ -95,6 +101,8 @@ struct ChartPlot::Private {
   QCPItemTracer* tracer = nullptr;
   QCPItemText* readOut = nullptr;
   bool legend = true;
+  bool legendStale = true;
+  std::optional<bool> legendBelow;
   bool settingView = false;
 };
 
@@ -106,7 +114,12 @@ ChartPlot::Private::Private(ChartPlot& chart) : owner(chart), plot(new Plot(&cha
   // Without a size there is nothing to draw on.
   plot->setMinimumSize(50, 50);
   plot->legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
-  QObject::connect(plot, &QCustomPlot::beforeReplot, &chart, [this] { FitLegend(); });
+  QObject::connect(plot, &QCustomPlot::beforeReplot, &chart, [this] {
+    // Once for all series that came since.
+    if (std::exchange(legendStale, false)) FillLegend();
+    FitLegend();
+    FitTicks();
+  });
   plot->legend->setBorderPen(Qt::NoPen);
   tracer = new QCPItemTracer(plot);
   tracer->setStyle(QCPItemTracer::tsCircle);
@@ -141,13 +154,13 @@ ChartPlot::Private::Drawn ChartPlot::Private::Draw(const ChartSeries& s) {
     auto* bars = new QCPBars(plot->xAxis, plot->yAxis);
     for (const QPointF& point : s.points) bars->addData(point.x(), point.y());
     bars->setWidth(BarWidth(s.points));
-    drawn = {bars, true};
+    drawn = {bars, true, s.color};
   } else {
     QCPGraph* graph = MakeGraph(s.points);
     const bool steps = s.style == LineChart::Style::kSteps;
     graph->setLineStyle(steps ? QCPGraph::lsStepLeft : QCPGraph::lsLine);
     graph->setScatterSkip(static_cast<int>(s.points.size()) / kMarkersPerSeries);
-    drawn = {graph, false};
+    drawn = {graph, false, s.color};
   }
   drawn.plottable->setName(s.name);
   return drawn;
@@ -169,30 +182,48 @@ void ChartPlot::Private::FillLegend() {
   };
   for (const Drawn& drawn : series) add(drawn.plottable);
   for (const Area& area : areas) add(area.upper);
-  const bool shown = legend && plot->legend->itemCount() > 0;
-  plot->legend->setVisible(shown);
-  PlaceLegend(shown);
 }
 
-/// As many columns as have room for the widest entry.
-void ChartPlot::Private::FitLegend() const {
+/// As many columns as have room for the widest entry; no legend that leaves too little of the plot.
+void ChartPlot::Private::FitLegend() {
   QCPLegend& entries = *plot->legend;
-  int widest = 1;
+  QSize largest(1, 1);
+  int count = 0;
   for (int i = 0; i < entries.itemCount(); ++i) {
     // The last row may have empty places.
     const QCPAbstractLegendItem* item = entries.item(i);
-    if (item) widest = std::max(widest, item->minimumOuterSizeHint().width());
+    if (!item) continue;
+    largest = largest.expandedTo(item->minimumOuterSizeHint());
+    ++count;
   }
   const QMargins margins = entries.margins();
   const int room = plot->width() - margins.left() - margins.right() + entries.columnSpacing();
-  const int columns = std::clamp(room / (widest + entries.columnSpacing()), 1, kMostLegendColumns);
-  if (columns == entries.wrap()) return;
-  entries.setWrap(columns);
-  entries.setFillOrder(QCPLayoutGrid::foColumnsFirst, true);
+  const int columns =
+      std::clamp(room / (largest.width() + entries.columnSpacing()), 1, kMostLegendColumns);
+  if (columns != entries.wrap()) {
+    entries.setWrap(columns);
+    entries.setFillOrder(QCPLayoutGrid::foColumnsFirst, true);
+  }
+  const int rows = (count + columns - 1) / columns;
+  const int height = rows * (largest.height() + entries.rowSpacing());
+  PlaceLegend(legend && count > 0 && height <= plot->height() * kMostLegendShare);
+}
+
+/// As many ticks as have room for their texts.
+void ChartPlot::Private::FitTicks() const {
+  const auto fit = [](const QCPAxis& axis, int room) {
+    axis.ticker()->setTickCount(std::clamp(room, 2, kMostTicks));
+  };
+  const QFontMetrics metrics(plot->xAxis->tickLabelFont());
+  fit(*plot->xAxis, plot->width() / metrics.horizontalAdvance(QStringLiteral("0000000")));
+  fit(*plot->yAxis, plot->height() / (3 * metrics.height()));
 }
 
 /// The legend stands below the axes, where it hides nothing; one that is not shown takes no room.
 void ChartPlot::Private::PlaceLegend(bool below) {
+  if (below == legendBelow) return;
+  legendBelow = below;
+  plot->legend->setVisible(below);
   QCPLayoutGrid& rows = *plot->plotLayout();
   plot->legend->layout()->take(plot->legend);
   rows.simplify();
@@ -221,12 +252,15 @@ void ChartPlot::Private::DressAxis(const ChartTheme& theme, const QFont& font,
 
 void ChartPlot::Private::DressSeries(const ChartTheme& theme, int number) const {
   const Drawn& drawn = series[static_cast<std::size_t>(number)];
-  drawn.plottable->setPen(theme.SeriesPen(number));
+  const QColor color =
+      drawn.color.isValid() ? theme.Readable(drawn.color) : theme.SeriesColor(number);
+  QPen pen = theme.SeriesPen(number);
+  pen.setColor(color);
+  drawn.plottable->setPen(pen);
   if (drawn.isBars) drawn.plottable->setBrush(theme.BandColor(number));
   auto* graph = qobject_cast<QCPGraph*>(drawn.plottable);
   if (!graph) return;
   const auto shape = kMarkers[static_cast<std::size_t>(number) % kMarkers.size()];
-  const QColor color = theme.SeriesColor(number);
   graph->setScatterStyle(QCPScatterStyle(shape, QPen(color, 1.2), color, 5.5));
 }
 
@@ -290,7 +324,7 @@ void ChartPlot::SetScale(Axis axis, LineChart::Scale scale) {
 
 void ChartPlot::SetLegendVisible(bool visible) {
   d_->legend = visible;
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::SetWheelZooms(bool zooms) { d_->plot->setInteraction(QCP::iRangeZoom, zooms); }
@@ -344,14 +378,14 @@ QPointF ChartPlot::Pixel(const QPointF& point) const {
 
 void ChartPlot::AddSeries(const ChartSeries& series) {
   d_->series.push_back(d_->Draw(series));
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::ReplaceSeries(int number, const ChartSeries& series) {
   Private::Drawn& drawn = d_->series.at(static_cast<std::size_t>(number));
   d_->plot->removePlottable(drawn.plottable);
   drawn = d_->Draw(series);
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::AddArea(const QString& name, const QList<QPointF>& lower,
@@ -360,7 +394,7 @@ void ChartPlot::AddArea(const QString& name, const QList<QPointF>& lower,
   area.upper->setName(name);
   area.upper->setChannelFillGraph(area.lower);
   d_->areas.push_back(area);
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::AddBand(Axis axis, Range range, const QString& name) {
@@ -400,7 +434,7 @@ void ChartPlot::Clear() {
   d_->bands.clear();
   d_->markers.clear();
   d_->texts.clear();
-  d_->FillLegend();
+  d_->legendStale = true;
 }
 
 void ChartPlot::ShowCursor(const QPointF& point, const QString& text) {

@@ -22,6 +22,8 @@ struct ChartTheme {
 
   /// Told apart by people with any color vision, and each at least 3 : 1 against the background.
   [[nodiscard]] QColor SeriesColor(int series) const;
+  /// A color of a series' own, brought towards the ink until it has that contrast too.
+  [[nodiscard]] QColor Readable(const QColor& color) const;
   /// Color and dash; the first series is solid.
   [[nodiscard]] QPen SeriesPen(int series) const;
   [[nodiscard]] QColor BandColor(int band) const;

@@ -215,8 +215,9 @@ void LineChart::SetLegendVisible(bool visible) {
   d_->Refresh();
 }
 
-int LineChart::AddSeries(const QString& name, const QList<QPointF>& points, Style style) {
-  d_->data.series.push_back({name, points, style});
+int LineChart::AddSeries(const QString& name, const QList<QPointF>& points, Style style,
+                         const QColor& color) {
+  d_->data.series.push_back({name, points, style, color});
   d_->plot->AddSeries(d_->data.series.back());
   d_->Refresh();
   return SeriesCount() - 1;

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QPointF>
 #include <QString>
@@ -51,8 +52,11 @@ class LineChart : public QWidget {
   void SetLegendVisible(bool visible);
 
   /// Adds a series and returns its number, counted from 0. Points are drawn in the order of their
-  /// x; a NaN breaks the line. An empty name keeps it out of the legend.
-  int AddSeries(const QString& name, const QList<QPointF>& points, Style style = Style::kLine);
+  /// x; a NaN breaks the line. An empty name keeps it out of the legend. A series that stands for
+  /// something with a color is drawn in that one, made darker or lighter where the background
+  /// would hide it.
+  int AddSeries(const QString& name, const QList<QPointF>& points, Style style = Style::kLine,
+                const QColor& color = {});
   /// Replaces the points of a series. Throws std::out_of_range when there is no such series, as
   /// Points does.
   void SetPoints(int series, const QList<QPointF>& points);

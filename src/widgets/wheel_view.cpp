@@ -31,6 +31,8 @@ constexpr double kBand = 0.06;
 constexpr double kSelectionWidth = 3.5;
 /// An overflow narrower than this is drawn this wide, so that it can be seen.
 constexpr double kLeastShownOverflow = 2.0;
+/// With two decimals less is 0.
+constexpr double kLeastNamed = 0.005;
 
 QString Degrees(double degrees) {
   return QString::fromStdString(platform::FixedText(degrees, 2)) + QChar(0x00B0);
@@ -84,10 +86,11 @@ QString WheelView::SegmentText(std::size_t segment) const {
 }
 
 QString WheelView::TurnText() const {
+  const double over = layout_.OverflowDegrees(), gap = layout_.GapDegrees();
   if (layout_.parts.empty()) return tr("empty");
-  if (layout_.OverflowDegrees() > 0) return tr("%1 over").arg(Degrees(layout_.OverflowDegrees()));
-  if (layout_.GapDegrees() > 0) return tr("%1 open").arg(Degrees(layout_.GapDegrees()));
-  return tr("full turn");
+  if (over >= kLeastNamed) return tr("%1 over").arg(Degrees(over));
+  if (over > 0) return tr("slightly over");
+  return gap >= kLeastNamed ? tr("%1 open").arg(Degrees(gap)) : tr("full turn");
 }
 
 const Part* WheelView::PartOf(std::size_t segment) const {
@@ -318,9 +321,9 @@ bool WheelView::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   const auto segment = SegmentAt(help->pos());
-  QToolTip::showText(
-      help->globalPos(),
-      segment ? tr("%1: %2").arg(*segment + 1).arg(SegmentText(*segment)) : QString(), this);
+  QToolTip::showText(help->globalPos(),
+                     segment ? tr("%1: %2").arg(*segment).arg(SegmentText(*segment)) : QString(),
+                     this);
   return true;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include <gmock/gmock.h>
 
+#include <QLockFile>
 #include <regex>
 #include <string>
 #include <vector>
@@ -402,6 +403,25 @@ TEST_F(CommandLine, FullDiskLeavesTheOldDatabase) {
     print(p.apply(), sysdef.save(), sysdef.needToSave, p.control("Start of 1st Subframe").text);)js");
   EXPECT_EQ(scripted.out, "true false true 12.50\n") << scripted;
   EXPECT_EQ(command_.Read(kDatabase), before.at(kDatabase));
+}
+
+TEST_F(CommandLine, AProjectThatAnotherProgramHoldsIsNotSaved) {
+  QLockFile lock(QString::fromStdString(command_.Folder() + "/" + kDatabase + ".lock"));
+  ASSERT_TRUE(lock.tryLock(0));
+  const std::string before = command_.Read(kDatabase);
+  const CommandResult imported =
+      command_.Run({"import", kProject, "PixmeldPage"}, Pixmeld("Inputs", "12.5"));
+  EXPECT_EQ(imported.status, 3) << imported;
+  EXPECT_THAT(imported.err, IsOneLineWith(Words{kDatabase, "held by", "process"}));
+  const CommandResult scripted = RunScript(R"js(
+    const p = sysdef.open("PixmeldPage"); p.control("Start of 1st Subframe").text = "12.5";
+    print(p.apply(), sysdef.save(), sysdef.needToSave);)js");
+  EXPECT_EQ(scripted.out, "true false true\n") << scripted;
+  EXPECT_EQ(command_.Read(kDatabase), before);
+  EXPECT_EQ(command_.Run({"import", kProject, "PixmeldPage"}, Pixmeld("Inputs", "4.5")).status, 0);
+  lock.unlock();
+  EXPECT_EQ(command_.Run({"import", kProject, "PixmeldPage"}, Pixmeld("Inputs", "12.5")).status, 0);
+  EXPECT_FALSE(command_.Exists(kDatabase + ".lock"));
 }
 
 TEST_F(CommandLine, FolderThatTakesNoFileIsSaidOnSave) {

@@ -45,7 +45,7 @@ std::ostream& operator<<(std::ostream& stream, const CommandResult& result) {
                 << result.err << "---";
 }
 
-Command::Command() {
+Command::Command() : program_(SYSDEF_BINARY_DIR "/bin/sysdef") {
   fs::copy(fs::path(SYSDEF_SOURCE_DIR) / "samples/three-color-lamp", folder_.Path(),
            fs::copy_options::recursive);
   fs::create_directory(folder_.Path() / kHome);
@@ -55,9 +55,12 @@ void Command::Start(QProcess& program, const std::vector<std::string>& arguments
   QStringList list;
   for (const std::string& argument : arguments) list << QString::fromStdString(argument);
   program.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
-  program.setProcessEnvironment(PlainEnvironment(folder_.Path() / kHome));
+  QProcessEnvironment environment = PlainEnvironment(folder_.Path() / kHome);
+  for (const auto& [name, value] : environment_)
+    environment.insert(QString::fromStdString(name), QString::fromStdString(value));
+  program.setProcessEnvironment(environment);
   if (!limits_.empty()) program.setChildProcessModifier([this] { LimitSelf(limits_); });
-  program.start(SYSDEF_BINARY_DIR "/bin/sysdef", list);
+  program.start(QString::fromStdString(program_), list);
   program.waitForStarted();
 }
 

@@ -34,12 +34,18 @@ class Command {
   CommandResult Run(const std::vector<std::string>& arguments, const std::string& input = {});
   /// Starts it and comes back at once.
   void Start(QProcess& program, const std::vector<std::string>& arguments);
+  /// Every run from now on is of this program in place of sysdef, and with this in its environment.
+  void SetProgram(const std::string& path) { program_ = path; }
+  void SetEnvironment(const std::string& name, const std::string& value) {
+    environment_[name] = value;
+  }
   /// No run from now on may write a file longer than this, as if the disk were full.
   void LimitFileSize(unsigned bytes) { limits_[RLIMIT_FSIZE] = bytes; }
   /// No run from now on may take more memory of its own, or more processor time: it crashes then.
   void LimitMemory(unsigned bytes) { limits_[RLIMIT_DATA] = bytes; }
   void LimitProcessorTime(unsigned seconds) { limits_[RLIMIT_CPU] = seconds; }
 
+  [[nodiscard]] std::string Folder() const { return folder_.Path().string(); }
   /// Files of the folder, by path relative to it. Writing makes the folders that are missing.
   void Write(const std::string& file, const std::string& text) { folder_.Write(file, text); }
   [[nodiscard]] std::string Read(const std::string& file) const { return folder_.Read(file); }
@@ -57,6 +63,8 @@ class Command {
 
  private:
   TempFolder folder_;
+  std::string program_;
+  std::map<std::string, std::string> environment_;
   std::map<int, unsigned> limits_;
 };
 

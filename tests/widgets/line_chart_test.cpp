@@ -252,6 +252,10 @@ TEST(ChartTheme, SeriesCanBeSeenAndToldApartWithoutTheirHue) {
     }
     EXPECT_EQ(hues.size(), 6u);
     EXPECT_GE(Contrast(theme.ink, theme.background), 7.0);
+    for (const QColor own : {Qt::white, Qt::black, Qt::yellow, Qt::cyan, Qt::blue, Qt::red}) {
+      EXPECT_GE(Contrast(theme.Readable(own), theme.background), 3.0) << own.name().toStdString();
+      EXPECT_EQ(theme.Readable(own).hue(), own.hue()) << own.name().toStdString();
+    }
   }
 }
 

@@ -74,6 +74,8 @@ TEST_F(WheelViewTest, DrawsSegmentsInTheirColors) {
     const char* words;
   } wheels[] = {{{{kRed, 360}}, "full turn"},
                 {{{kRed, 100}, {kGreen, 100}}, "160.00\u00B0 open"},
+                {{{kRed, 359.999}}, "full turn"},
+                {{{kRed, 360.001}}, "slightly over"},
                 {{{kRed, 121}, {kGreen, 120}, {kBlue, 120}}, "1.00\u00B0 over"},
                 {std::vector<CWSeg>(20, CWSeg(kBlue, 18)), "full turn"}};
   for (const auto& each : wheels) {

@@ -9,11 +9,11 @@
 #include "app/command_line.h"
 #include "app/diagnostics.h"
 #include "app/exit_status.h"
+#include "app/locked_save.h"
 #include "app/page_reading.h"
 #include "app/session.h"
 #include "host/gui/page_host.h"
 #include "host/gui/page_services.h"
-#include "host/gui/tool.h"
 #include "host/project/ost_exception.h"
 #include "host/project/run_time_db.h"
 #include "platform/file/file.h"
@@ -65,7 +65,7 @@ int RunImportCommand(const CommandLine& line) {
     return kRefused;
   }
   if (!session.Database().Modified()) return kDone;
-  if (!session.Tool().Save()) throw OstException(session.Tool().LastError());
+  if (const auto failure = SaveLocked(session)) throw OstException(*failure);
   return kDone;
 }
 

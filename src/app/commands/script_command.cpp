@@ -7,18 +7,18 @@
 #include "app/command_line.h"
 #include "app/diagnostics.h"
 #include "app/exit_status.h"
+#include "app/locked_save.h"
 #include "app/session.h"
 #include "automation/script_runner.h"
-#include "host/gui/tool.h"
 
 namespace app {
 
 int RunScriptCommand(const CommandLine& line) {
   const Session session(line.projects.front());
   const auto save = [&session] {
-    if (session.Tool().Save()) return true;
-    TellError(session.Tool().LastError());
-    return false;
+    const auto failure = SaveLocked(session);
+    if (failure) TellError(*failure);
+    return !failure;
   };
   automation::ScriptRunner runner(session.Pages(), save, line.arguments, std::cout);
   if (const auto error = runner.Run(line.file)) {

@@ -3,6 +3,7 @@
 #include "app/commands/show_command.h"
 
 #include <iostream>
+#include <utility>
 
 #include "app/command_line.h"
 #include "app/exit_status.h"
@@ -37,7 +38,11 @@ int RunShowCommand(const CommandLine& line) {
   if (!line.page.empty()) {
     Show(session, line.page);
   } else {
-    for (const std::string& page : Framework::PageHost::Names()) Show(session, page);
+    bool isFirst = true;
+    for (const std::string& page : Framework::PageHost::Names()) {
+      if (!std::exchange(isFirst, false)) std::cout << '\n';
+      Show(session, page);
+    }
   }
   std::cout << std::flush;
   return kDone;

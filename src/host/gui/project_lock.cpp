@@ -14,14 +14,15 @@ ProjectLock::ProjectLock(const std::filesystem::path& database)
 
 bool ProjectLock::Acquire() { return lock_.isLocked() || lock_.tryLock(0); }
 
-std::string ProjectLock::Holder() const {
-  if (lock_.error() == QLockFile::PermissionError)
-    return "nobody, but its folder cannot be written";
+std::string ProjectLock::Obstacle() const {
+  if (lock_.error() != QLockFile::LockFailedError)
+    return "The project cannot be locked: no file can be made in its folder";
   qint64 process = 0;
   QString machine;
   QString program;
-  if (!lock_.getLockInfo(&process, &machine, &program)) return "a program that left a damaged lock";
-  return QStringLiteral("%1 (process %2 on %3)")
+  if (!lock_.getLockInfo(&process, &machine, &program))
+    return "The project is held by a program that left a damaged lock";
+  return QStringLiteral("The project is held by %1 (process %2 on %3)")
       .arg(program)
       .arg(process)
       .arg(machine)

@@ -18,8 +18,9 @@ class ProjectLock {
   /// False when another program holds the lock, or the folder takes no lock file.
   bool Acquire();
   [[nodiscard]] bool Held() const { return lock_.isLocked(); }
-  /// Who stands in the way, in words for a sentence: "sysdef (process 12 on host)".
-  [[nodiscard]] std::string Holder() const;
+  /// Why it was not acquired, without a full stop: "The project is held by sysdef (process 12 on
+  /// host)".
+  [[nodiscard]] std::string Obstacle() const;
   /// Removes the other program's lock and takes its place; false when that fails.
   bool TakeOver();
 

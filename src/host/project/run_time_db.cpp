@@ -10,6 +10,7 @@
 #include "host/project/ost_exception.h"
 #include "platform/file/file.h"
 #include "platform/file/file_error.h"
+#include "platform/xml/composed_document.h"
 #include "platform/xml/source_map.h"
 #include "platform/xml/source_merge.h"
 #include "platform/xml/xml_error.h"
@@ -55,6 +56,7 @@ struct RunTimeDB::State {
     return found == fragments.end() ? nullptr : &*found;
   }
 
+  [[nodiscard]] Document Home(const std::vector<const Fragment*>& lent) const;
   void Take(std::string bytes);
   void Load();
   void Write();
@@ -66,6 +68,24 @@ struct RunTimeDB::State {
   [[nodiscard]] std::string Merged() const;
   [[nodiscard]] std::string NewFragments() const;
 };
+
+/// The document to lend fragments in: that of the largest, which then need not be walked over.
+Document RunTimeDB::State::Home(const std::vector<const Fragment*>& lent) const {
+  constexpr std::size_t kLarge = 10'000;
+  Document home;
+  if (lent.empty()) {
+    home.CreateRoot(kRoot);
+    return home;
+  }
+  std::size_t most = 0;
+  for (const Fragment* fragment : lent) {
+    const std::size_t count = platform::xml::CountNodes(fragment->Current(), kLarge);
+    if (count <= most) continue;
+    most = count;
+    home = fragment->now ? fragment->keeper : tree;
+  }
+  return home;
+}
 
 void RunTimeDB::State::Take(std::string bytes) {
   Document read = Document::Parse(bytes);
@@ -188,6 +208,20 @@ Document RunTimeDB::GetDOM(const std::vector<std::string>& fragments) const {
     if (const Fragment* fragment = state_->Find(name)) root.AppendCopy(fragment->Current());
   }
   return document;
+}
+
+void RunTimeDB::Lend(const std::vector<std::string>& fragments, Element last,
+                     const std::function<void(const Document&)>& use) const {
+  std::vector<const Fragment*> lent;
+  for (const std::string& name : fragments) {
+    const Fragment* fragment = state_->Find(name);
+    if (fragment && std::find(lent.begin(), lent.end(), fragment) == lent.end())
+      lent.push_back(fragment);
+  }
+  std::vector<Element> elements;
+  for (const Fragment* fragment : lent) elements.push_back(fragment->Current());
+  if (last) elements.push_back(last);
+  use(platform::xml::ComposedDocument(state_->Home(lent), elements).Get());
 }
 
 bool RunTimeDB::SetDOM(const Document& document) {

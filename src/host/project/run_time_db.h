@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -28,6 +29,11 @@ class RunTimeDB {
   /// A document of its own that holds copies of these fragments, in this order, under one
   /// document element `RunTimeDB`. A fragment that is not there is left out.
   [[nodiscard]] platform::xml::Document GetDOM(const std::vector<std::string>& fragments) const;
+  /// Hands `use` what GetDOM gives, with `last` behind the fragments where there is one, but lent
+  /// in place of copied: the document is good during the call only, and nothing of it may be
+  /// changed. `last` belongs to another document and stands there again afterwards.
+  void Lend(const std::vector<std::string>& fragments, platform::xml::Element last,
+            const std::function<void(const platform::xml::Document&)>& use) const;
   /// Stores every fragment under the document's document element in place of the one of that
   /// name, or as a new one at the end. Other fragments stay. The database keeps the document: the
   /// caller changes it no more. Returns false, with nothing stored, when the document element is

@@ -20,6 +20,7 @@
 #include "pages/color_wheel/rules/wheel_check.h"
 #include "pages/color_wheel/rules/wheel_sizes.h"
 #include "ui_color_wheel_page.h"
+#include "widgets/focus_wheel.h"
 #include "widgets/when_left.h"
 
 namespace VeskSystemDefinition {
@@ -66,6 +67,7 @@ void SysDefColorWheelPage::CreateControls(QWidget* window) {
   color_wheel::SetUpFilterChart(*ui_->filters);
   BindButtons();
   ConnectControls();
+  GUI::TurnOnlyWithFocus(*ui_->frameRate);
 }
 
 void SysDefColorWheelPage::BindButtons() {
@@ -104,6 +106,7 @@ void SysDefColorWheelPage::InitDialog() {
   defaultRate_ = project.GetNumber("projectclass.seqrange.defaultnominalframerate",
                                    color_wheel::kDefaultFrameRate);
   supportedRates_ = SupportedRates(project);
+  ShowSpokeSize();
   Show();
   ShowFrameRate();
 }
@@ -119,6 +122,7 @@ int SysDefColorWheelPage::UpdateData(int save) {
     }
     TakeGrid();
   } else {
+    ShowSpokeSize();
     Show();
   }
   return 1;
@@ -127,14 +131,14 @@ int SysDefColorWheelPage::UpdateData(int save) {
 // Data to controls.
 
 void SysDefColorWheelPage::Show() {
-  ShowSpokeSize();
   rows_->Show(*data_);
   UpdateButtons();
   UpdateTotal();
   UpdatePictures();
 }
 
-/// The box gets its text when it is left. Before that the value stands in it as a hint.
+/// The box gets its text when it is left. Before that the value stands in it as a hint. Other data
+/// replace it; row operations leave alone what is being typed.
 void SysDefColorWheelPage::ShowSpokeSize() {
   const QString text = QString::fromStdString(color_wheel::SpokeSizeText(data_->SpokeSize));
   ui_->spokeSize->setPlaceholderText(text);
@@ -200,7 +204,7 @@ void SysDefColorWheelPage::TakeSpokeSize() {
 }
 
 void SysDefColorWheelPage::TakeFrameRate(const QString& entry) {
-  if (color_wheel::SelectFrameRate(entry.toStdString(), *data_)) Modified();
+  if (color_wheel::SelectFrameRate(entry.toStdString(), supportedRates_, *data_)) Modified();
 }
 
 // Row operations.

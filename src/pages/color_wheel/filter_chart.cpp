@@ -7,6 +7,7 @@
 #include "pages/color_wheel/rules/filter_curve.h"
 #include "pages/color_wheel/rules/segment_rows.h"
 #include "widgets/line_chart.h"
+#include "widgets/wheel_colors.h"
 
 namespace color_wheel {
 
@@ -17,14 +18,16 @@ using GUI::LineChart;
 /// A legend of more entries would leave no room for the curves.
 constexpr int kMostLegendEntries = 8;
 
+/// Named as the segment's row is headed, and drawn in its color.
 void DrawFilter(LineChart& chart, const ColorWheelData& wheel, std::size_t segment) {
   QList<QPointF> points;
   for (const spectral_curve::Point& point : FilterCurve(FilterOf(wheel, segment))) {
     points << QPointF(point.wavelength, point.value);
   }
-  const std::string name(color_code::Name(wheel.Segments[segment].Color));
-  chart.AddSeries(QStringLiteral("%1 %2").arg(segment + 1).arg(QString::fromStdString(name)),
-                  points);
+  const int color = wheel.Segments[segment].Color;
+  const std::string name(color_code::Name(color));
+  chart.AddSeries(QStringLiteral("%1 %2").arg(segment).arg(QString::fromStdString(name)), points,
+                  LineChart::Style::kLine, GUI::WheelColor(color));
 }
 
 }  // namespace

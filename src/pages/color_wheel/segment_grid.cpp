@@ -16,6 +16,10 @@ namespace color_wheel {
 namespace {
 
 constexpr int kColorColumn = 0;
+constexpr int kFirstFilterColumn = 2;
+
+/// A text that stands in its cell and is not stored.
+QColor RefusedBackground() { return {255, 214, 204}; }
 
 GUI::GridColumn NumberColumn(const char* heading, int decimals) {
   GUI::GridColumn column;
@@ -111,6 +115,7 @@ bool SegmentGrid::TakeRowOf(ColorWheelData& wheel, std::size_t segment, int& ref
     if (cells[column] == before[column] && isTaken) cells[column] = now[column];
   }
   Rewrite(row, before, cells);
+  MarkRefused(row, cells, now, filter);
   shown = now;
   return takenRow.changed;
 }
@@ -124,6 +129,19 @@ void SegmentGrid::Rewrite(int row, const RowTexts& before, const RowTexts& now) 
     } else {
       grid_.SetCellText(row, place, QString::fromStdString(now[column]));
     }
+  }
+}
+
+void SegmentGrid::MarkRefused(int row, const RowTexts& cells, const RowTexts& stored,
+                              const SFilterSpec& filter) {
+  int column = kFirstFilterColumn;
+  for (const FilterColumn& each : FilterColumns()) {
+    const auto cell = static_cast<std::size_t>(column);
+    const bool refused = cells[cell] != stored[cell];
+    grid_.SetCellBackground(row, column, refused ? RefusedBackground() : QColor());
+    grid_.SetCellToolTip(
+        row, column, refused ? QString::fromStdString(RefusedFilterHint(each, filter)) : QString());
+    ++column;
   }
 }
 

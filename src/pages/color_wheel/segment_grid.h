@@ -34,7 +34,8 @@ class SegmentGrid {
     bool changed = false;
     int refusedSizes = 0;
   };
-  /// Takes what was edited. Refused sizes and a chosen "None" are rewritten in their cells.
+  /// Takes what was edited. Refused sizes and a chosen "None" are rewritten in their cells; a
+  /// refused filter value keeps its text and is marked until it is edited or shown anew.
   Taken Take(ColorWheelData& wheel);
   /// After rows were moved: segments and filters come into the order of their rows.
   void FollowRows(ColorWheelData& wheel);
@@ -45,6 +46,8 @@ class SegmentGrid {
   void InsertRow(ColorWheelData& wheel, std::size_t segment);
   [[nodiscard]] RowTexts Cells(int row) const;
   void Rewrite(int row, const RowTexts& before, const RowTexts& now);
+  void MarkRefused(int row, const RowTexts& cells, const RowTexts& stored,
+                   const SFilterSpec& filter);
   bool TakeRowOf(ColorWheelData& wheel, std::size_t segment, int& refusedSizes);
 
   GUI::CDynamicDataGrid& grid_;

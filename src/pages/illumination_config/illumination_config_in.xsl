@@ -106,16 +106,20 @@
     <xsl:element name="{name(..)}"><xsl:value-of select="."/></xsl:element>
   </xsl:template>
 
-  <!-- Filters without a segment stand behind the segments. -->
+  <!-- A wheel that was made on the page has no filters at all. Where there are some, a segment
+       without one gets a new one. Filters without a segment stand behind the segments. -->
   <xsl:template match="Segments">
     <Segments>
       <count><xsl:value-of select="count(Segment)"/></count>
       <xsl:apply-templates select="Segment"/>
     </Segments>
     <FilterSpecs>
-      <count><xsl:value-of select="count(Segment) + count(Filter)"/></count>
-      <xsl:apply-templates select="Segment" mode="filter"/>
-      <xsl:apply-templates select="Filter"/>
+      <xsl:if test="not(.//Filter)"><count>0</count></xsl:if>
+      <xsl:if test=".//Filter">
+        <count><xsl:value-of select="count(Segment) + count(Filter)"/></count>
+        <xsl:apply-templates select="Segment" mode="filter"/>
+        <xsl:apply-templates select="Filter"/>
+      </xsl:if>
     </FilterSpecs>
   </xsl:template>
 

@@ -116,6 +116,8 @@
     <xsl:if test="$name = ''"><xsl:value-of select="."/></xsl:if>
   </xsl:template>
 
+  <!-- Wheels are numbered anew when sources go. What a stored wheel holds besides goes to the wheel
+       of its spoke size and segment sizes, or to the one of its number when no other is like it. -->
   <xsl:template name="Wheels">
     <xsl:param name="stored" select="/.."/>
     <xsl:variable name="wheels" select="/RunTimeDB/ModuleOutputs/Wheels/item"/>
@@ -124,10 +126,13 @@
       <xsl:attribute name="slots"><xsl:value-of select="$slots"/></xsl:attribute>
     </xsl:if>
     <xsl:for-each select="$wheels">
-      <xsl:variable name="number" select="WheelNumber"/>
+      <xsl:variable name="like" select="$stored/Wheel[SpokeSize/@degrees = number(current()/SpokeSize) and count(Segments/Segment) = count(current()/Segments/item) and sum(Segments/Segment/@degrees) = sum(current()/Segments/item/Size) and Segments/Segment[1]/@degrees = number(current()/Segments/item[1]/Size)]"/>
+      <xsl:variable name="same" select="$stored/Wheel[@number = current()/WheelNumber][1]"/>
+      <xsl:variable name="likeSame" select="$like[@number = current()/WheelNumber][1]"/>
+      <xsl:variable name="isTaken" select="$wheels[WheelNumber != $same/@number and SpokeSize = number($same/SpokeSize/@degrees) and count(Segments/item) = count($same/Segments/Segment) and sum(Segments/item/Size) = sum($same/Segments/Segment/@degrees) and Segments/item[1]/Size = number($same/Segments/Segment[1]/@degrees)]"/>
       <Wheel>
         <xsl:call-template name="Wheel">
-          <xsl:with-param name="stored" select="$stored/Wheel[@number = $number][1]"/>
+          <xsl:with-param name="stored" select="$likeSame | $like[not($likeSame)][1] | $same[not($like) and not($isTaken)]"/>
           <xsl:with-param name="data" select="."/>
         </xsl:call-template>
       </Wheel>

@@ -187,9 +187,9 @@ void SysDefIllumConfigPage::RunWheelOperation(RowOperation operation) {
 void SysDefIllumConfigPage::TakeWheel() {
   WheelEditor* editor = Current();
   if (!editor) return;
-  editor->rows = wheel_->Rows();
-  UpdateTotal();
+  editor->rows = wheel_->Take();
   UpdatePicture();
+  UpdateTotal();
   Modified();
 }
 
@@ -208,11 +208,10 @@ void SysDefIllumConfigPage::UpdateTotal() {
     ui_->total->setText(QString::fromLatin1(illumination_config::kNoTotalText));
     return;
   }
-  std::vector<std::string> degrees;
-  for (const auto& row : editor->rows) degrees.push_back(row.degrees);
-  const double total = illumination_config::WheelTotal(degrees);
+  const double total =
+      illumination_config::WheelTotal(illumination_config::MakeWheel(*editor).Segments);
   ui_->total->setText(QString::fromStdString(illumination_config::DegreesText(total)));
-  if (const auto refusal = illumination_config::TotalRefusal(degrees.size(), total)) {
+  if (const auto refusal = illumination_config::TotalRefusal(editor->rows.size(), total)) {
     ShowMessageBox(*refusal, {}, msgbox::kIconWarning);
   }
 }

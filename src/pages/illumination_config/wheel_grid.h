@@ -21,15 +21,15 @@ class WheelGrid {
 
   /// Shows these rows in place of all rows.
   void Show(const std::vector<WheelRow>& rows);
-  /// The rows as they are now. A row that was shown, or copied from such a one, carries the size
-  /// its text was made of.
-  [[nodiscard]] std::vector<WheelRow> Rows() const;
+  /// The rows as they are now. An edited size keeps all digits that were typed and is shown
+  /// rounded; one that was not edited, and a copy of it, is as it was.
+  [[nodiscard]] std::vector<WheelRow> Take();
 
  private:
-  [[nodiscard]] std::optional<double> SizeOf(unsigned rowId) const;
+  [[nodiscard]] double SizeOf(int row) const;
 
   GUI::CDynamicDataGrid& grid_;
-  std::map<unsigned, std::optional<double>> sizes_;  ///< degrees, by row id
+  std::map<unsigned, double> sizes_;  ///< degrees, by row id
 };
 
 }  // namespace illumination_config

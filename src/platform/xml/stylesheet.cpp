@@ -97,35 +97,6 @@ bool StripsInput(xsltStylesheet* stylesheet) {
   return false;
 }
 
-void Clear(xmlDoc* tree) {
-  xmlFreeNodeList(tree->children);
-  tree->children = tree->last = nullptr;
-  tree->intSubset = nullptr;
-}
-
-void SetOwner(xmlNode* node, xmlDoc* owner) {
-  node->doc = owner;
-  if (node->type != XML_ELEMENT_NODE) return;
-  for (xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next) {
-    attribute->doc = owner;
-    for (xmlNode* part = attribute->children; part != nullptr; part = part->next) part->doc = owner;
-  }
-}
-
-/// Moves what `from` holds to `to`, its table of shared names included, and leaves `from` empty.
-/// Nothing is copied: large results are the rule.
-void Move(xmlDoc* from, xmlDoc* to) {
-  Clear(to);
-  const _xmlDoc emptied = *to;
-  *to = *from;
-  *from = emptied;
-  to->doc = to;
-  from->doc = from;
-  for (xmlNode* node = to->children; node != nullptr; node = node->next)
-    node->parent = reinterpret_cast<xmlNode*>(to);
-  for (xmlNode* node = to->children; node != nullptr; node = NextNode(node)) SetOwner(node, to);
-}
-
 constexpr std::array kInstructions{"apply-imports",
                                    "apply-templates",
                                    "attribute",
@@ -204,9 +175,9 @@ Stylesheet Stylesheet::Compile(const Document& source, const std::string& name) 
 
 bool Processor::Transform() {
   const Document input = StripsInput(stylesheet_.Handle()) ? input_.Clone() : input_;
-  const Document result = Run(input);
+  Document result = Run(input);
   if (result.Handle() == nullptr) return false;
-  Move(result.Handle(), output_.Handle());
+  if (output_ != nullptr) *output_ = std::move(result);
   return true;
 }
 

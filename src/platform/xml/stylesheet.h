@@ -31,8 +31,9 @@ class Processor {
   explicit Processor(Stylesheet stylesheet) : stylesheet_(std::move(stylesheet)) {}
 
   void SetInput(Document input) { input_ = std::move(input); }
-  void SetOutput(Document output) { output_ = std::move(output); }
-  /// Fills the output document; false when the run failed, Error() then says why and where.
+  /// The output, which must live until Transform, refers to the result from there on.
+  void SetOutput(Document& output) { output_ = &output; }
+  /// False when the run failed: Error() then says why and where, and the output is what it was.
   bool Transform();
   [[nodiscard]] const std::string& Error() const noexcept { return error_; }
 
@@ -41,7 +42,7 @@ class Processor {
 
   Stylesheet stylesheet_;
   Document input_;
-  Document output_;
+  Document* output_ = nullptr;
   std::string error_;
 };
 

@@ -152,11 +152,20 @@ INSTANTIATE_TEST_SUITE_P(
                     Entry{5, "2.01", false, "2.01"}, Entry{6, "1", true, "1.00"},
                     Entry{6, "1.5", false, "1.5"}, Entry{6, "x", false, "x"}));
 
-TEST(ColorWheelPage, ARefusedFilterValueGoesWithTheNextShowing) {
+TEST(ColorWheelPage, ARefusedFilterValueIsMarkedAndGoesWithTheNextShowing) {
   WheelPage page;
+  const QString plain = page.Grid().Background(0, 6);
   page.Grid().SetCell(0, 6, "1.5");
+  EXPECT_NE(page.Grid().Background(0, 6), plain);
+  EXPECT_EQ(page.Grid().ToolTip(0, 6), "Not taken: a number from 0 to 1 is. Stored is 0.");
+  page.Grid().SetCell(0, 6, "0.5");
+  EXPECT_EQ(page.Grid().Background(0, 6), plain);
+  EXPECT_EQ(page.Grid().ToolTip(0, 6), "");
+  EXPECT_TRUE(page.TakeChanged());
+  page.Grid().SetCell(0, 6, "-1");
   EXPECT_TRUE(page.Apply());
-  EXPECT_EQ(page.Grid().Cell(0, 6), "0.00");
+  EXPECT_EQ(page.Grid().Cell(0, 6), "0.50");
+  EXPECT_EQ(page.Grid().Background(0, 6), plain);
   EXPECT_FALSE(page.TakeChanged());
 }
 
@@ -217,6 +226,14 @@ TEST(ColorWheelPage, TheSpokeSizeIsTakenWhenItsBoxIsLeft) {
     EXPECT_EQ(page.TakeChanged(), entry.stored != before) << entry.text;
     before = entry.stored;
   }
+  // Row buttons take no focus: what is being typed stands until the box is left.
+  box.SetText("7.25");
+  box.Type("9");
+  page.Form().Press("Add row");
+  EXPECT_EQ(box.Text(), "7.2509");
+  box.Leave();
+  EXPECT_EQ(page.Now().SpokeSize, 7.2509);
+  box.SetText("7.25");
   // An apply takes the text that is still being typed.
   box.Type("\b\b9");
   EXPECT_TRUE(page.Apply());

@@ -23,7 +23,7 @@ constexpr const char* kWheelControls[] = {"Add segment",    "Copy segments", "De
                                           "Move to bottom", "Spoke Size"};
 
 std::string Wheel(int number, double first) {
-  return "<Wheel number=\"" + std::to_string(number) +
+  return "<Wheel number=\"" + std::to_string(number) + "\" serial=\"W" + std::to_string(number) +
          "\"><SpokeSize degrees=\"12.3456\"/><PwmEfficiencies use=\"measured\"/><Segments>"
          "<Segment color=\"Yellow\" degrees=\"" +
          std::to_string(first) +
@@ -138,6 +138,33 @@ TEST(IlluminationConfigPage, ATickMakesAWheelAndItsRemovalDestroysIt) {
   EXPECT_EQ(page.Text("Total Degrees"), "0.0");
   page.Sources().Toggle(0, 2);
   EXPECT_EQ(page.Segments().Rows(), 0) << "the wheel is a new one";
+}
+
+TEST(IlluminationConfigPage, AWheelMadeHereKeepsItsDigitsAndReloadsAsItWasStored) {
+  SourcePage page(WithSources("<Source slot=\"1\" kind=\"led\" color=\"Red\"/>"));
+  page.Sources().Toggle(0, 2);
+  // A seventh of a turn cannot be shown: seven rounded ones are more than a turn.
+  for (int row = 0; row < 7; ++row) page.Form().Press("Add segment");
+  for (int row = 0; row < 6; ++row) page.Segments().SetCell(row, 1, "51.428571");
+  page.Segments().Select({{0, 0}});
+  page.Form().Press("Copy segments");
+  page.Segments().Select({{0, 0}, {6, 6}});
+  page.Form().Press("Delete segments");
+  page.Segments().Select({{5, 5}});
+  page.Form().Press("Copy segments");
+  EXPECT_EQ(page.Segments().Cell(6, 1), "51.43");
+  EXPECT_EQ(page.Text("Total Degrees"), "360.00");
+  EXPECT_EQ(page.TakeTexts(), "");
+  EXPECT_TRUE(page.Apply());
+  const IlluminationConfigurationData stored = page.Now();
+  for (const SSegGeom& segment : stored.Wheels[0].Segments) EXPECT_EQ(segment.Size, 51.428571);
+  page.project.Session().Tool().Save();
+  page.project.Restart();
+  EXPECT_EQ(page.Now(), stored);
+  page.Sources().ClickCell(0, 0);
+  EXPECT_EQ(page.TakeTexts(), "") << "it holds a turn, whatever the cells add up to";
+  EXPECT_TRUE(page.Apply());
+  EXPECT_FALSE(page.project.Session().Database().Modified());
 }
 
 TEST(IlluminationConfigPage, KeysSelectSourcesToo) {
@@ -269,6 +296,20 @@ TEST(IlluminationConfigPage, TheGridsLiveOnUntilOtherDataCome) {
     services.ImportData(exported);
     EXPECT_EQ(page.Sources().Cell(0, 1), "Blue");
   }
+}
+
+TEST(IlluminationConfigPage, WhatOthersStoredWithAWheelFollowsItsNewNumber) {
+  SourcePage page(Full());
+  page.Sources().Select({{1, 1}});
+  page.Form().Press("Delete source");
+  page.Sources().ClickCell(6, 0);
+  page.Segments().SetCell(0, 1, "17");
+  ASSERT_TRUE(page.Apply());
+  const std::string text = page.Database();
+  EXPECT_THAT(text, HasSubstr("number=\"1\" serial=\"W2\""));
+  EXPECT_THAT(text, testing::Not(HasSubstr("serial=\"W1\""))) << "its wheel is gone";
+  ASSERT_TRUE(page.Apply());
+  EXPECT_EQ(page.Database(), text);
 }
 
 TEST(IlluminationConfigPage, ThePictureSelectsSegments) {

@@ -16,6 +16,14 @@ constexpr std::string_view kNumberCharacters = "0123456789.";
 constexpr double kDefaultRateBound = 90.0;
 constexpr double kIndependentSpin = 4.0;
 
+std::string EntryText(double rate) { return "  " + platform::FixedText(rate, 2); }
+
+/// The number that the entry reads as; where it shows a supported rate, all digits of that one.
+std::optional<double> RateOf(std::string_view entry, std::span<const double> supported) {
+  const auto shown = std::ranges::find(supported, entry, EntryText);
+  return shown != supported.end() ? *shown : leading_number::EnteredNumber(entry);
+}
+
 }  // namespace
 
 std::vector<double> ParseFrameRates(std::string_view text) {
@@ -44,13 +52,14 @@ FrameRateList MakeFrameRateList(std::span<const double> supported, double defaul
   list.enabled = true;
   for (const double rate : supported) {
     if (rate == nominalRate && !list.selected) list.selected = list.entries.size();
-    list.entries.push_back("  " + platform::FixedText(rate, 2));
+    list.entries.push_back(EntryText(rate));
   }
   return list;
 }
 
-bool SelectFrameRate(std::string_view entry, ColorWheelData& wheel) {
-  const std::optional<double> rate = leading_number::EnteredNumber(entry);
+bool SelectFrameRate(std::string_view entry, std::span<const double> supported,
+                     ColorWheelData& wheel) {
+  const std::optional<double> rate = RateOf(entry, supported);
   if (!rate || *rate == wheel.NominalFrameRate) return false;
   wheel.NominalFrameRate = *rate;
   if (wheel.SpinValue != kIndependentSpin) wheel.SecondFrameRate = *rate;

@@ -31,8 +31,10 @@ struct FrameRateList {
 [[nodiscard]] FrameRateList MakeFrameRateList(std::span<const double> supported, double defaultRate,
                                               double nominalRate);
 
-/// Stores the rate of the chosen entry. A text that is no number is ignored. True when the nominal
-/// rate changed; the second rate then follows it, unless the wheel spins four times a frame.
-[[nodiscard]] bool SelectFrameRate(std::string_view entry, ColorWheelData& wheel);
+/// Stores the rate of the chosen entry, the supported one where it shows one rounded. A text that
+/// is no number is ignored. True when the nominal rate changed; the second rate then follows it,
+/// unless the wheel spins four times a frame.
+[[nodiscard]] bool SelectFrameRate(std::string_view entry, std::span<const double> supported,
+                                   ColorWheelData& wheel);
 
 }  // namespace color_wheel

@@ -63,6 +63,12 @@ std::span<const FilterColumn, 5> FilterColumns() {
   return columns;
 }
 
+std::string RefusedFilterHint(const FilterColumn& column, const SFilterSpec& filter) {
+  return "Not taken: a number from " + platform::GeneralText(column.low) + " to " +
+         platform::GeneralText(column.high) + " is. Stored is " +
+         platform::ShortestText(filter.*column.member) + ".";
+}
+
 RowTexts ShownRow(const SSegGeom& segment, const SFilterSpec& filter) {
   RowTexts texts;
   texts[kColorCell] = color_code::Name(segment.Color);

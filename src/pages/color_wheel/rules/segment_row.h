@@ -28,6 +28,9 @@ struct FilterColumn {
 };
 [[nodiscard]] std::span<const FilterColumn, 5> FilterColumns();
 
+/// What to say of a cell of that column whose text was not taken.
+[[nodiscard]] std::string RefusedFilterHint(const FilterColumn& column, const SFilterSpec& filter);
+
 /// The texts of a row: color name, degrees, then the filter columns.
 using RowTexts = std::array<std::string, 7>;
 [[nodiscard]] RowTexts ShownRow(const SSegGeom& segment, const SFilterSpec& filter);

@@ -19,8 +19,11 @@ namespace {
 using platform::GeneralText;
 
 constexpr const char* kGrid = "Segment Geometry";
+/// What a total with two decimals shows; less is left over where a turn cannot be divided.
+constexpr double kLeastGapDegrees = 0.005;
 
-std::string Ordinal(std::size_t index) { return "segment " + std::to_string(index + 1); }
+/// Segments are numbered as the rows of the grid are headed.
+std::string NameOf(std::size_t index) { return "segment " + std::to_string(index); }
 
 void CheckColor(const SSegGeom& segment, const std::string& name, std::string_view letters,
                 FindingReport& report) {
@@ -89,11 +92,11 @@ void CheckFilter(const SFilterSpec& filter, const SSegGeom& segment, const std::
 void CheckSegments(const ColorWheelData& wheel, std::string_view letters, FindingReport& report) {
   for (std::size_t i = 0; i < wheel.Segments.size(); ++i) {
     const SSegGeom& segment = wheel.Segments[i];
-    CheckColor(segment, Ordinal(i), letters, report);
-    CheckSize(segment, Ordinal(i), report);
-    CheckAdvanced(segment, Ordinal(i), report);
+    CheckColor(segment, NameOf(i), letters, report);
+    CheckSize(segment, NameOf(i), report);
+    CheckAdvanced(segment, NameOf(i), report);
     if (i < wheel.FilterSpecs.size()) {
-      CheckFilter(wheel.FilterSpecs[i], segment, Ordinal(i), report);
+      CheckFilter(wheel.FilterSpecs[i], segment, NameOf(i), report);
     }
   }
   if (wheel.FilterSpecs.size() != wheel.Segments.size()) {
@@ -110,14 +113,14 @@ void CheckTotal(const ColorWheelData& wheel, FindingReport& report) {
   if (TotalFault(total)) {
     report.Error("color-wheel.total", "Total",
                  "the segments add up to " + TotalText(total) + " degrees");
-  } else if (!wheel.Segments.empty() && layout.GapDegrees() > 0) {
+  } else if (!wheel.Segments.empty() && layout.GapDegrees() >= kLeastGapDegrees) {
     report.Warning("color-wheel.gap", "Total",
                    "the segments leave " + GeneralText(layout.GapDegrees()) + " degrees open");
   }
   for (const wheel_layout::Part& part : layout.parts) {
     if (part.IsSpoke() || part.sweepDegrees > 0) continue;
     report.Warning("color-wheel.narrow-segment", kGrid,
-                   Ordinal(part.segment) + " is no wider than its spokes");
+                   NameOf(part.segment) + " is no wider than its spokes");
   }
 }
 

@@ -3,21 +3,28 @@
 #include "pages/illumination_config/rules/configuration_check.h"
 
 #include <algorithm>
-#include <numeric>
 #include <string>
 
 #include "host/calc/color_code.h"
 #include "host/project/finding_report.h"
 #include "pages/illumination_config/rules/wheel_total.h"
+#include "platform/text/number.h"
 
 namespace illumination_config {
 namespace {
 
 constexpr const char* kSources = "Illumination Sources";
 constexpr const char* kWheels = "Wheel Details";
+/// The page takes any spoke size; a wheel has none outside of these.
+constexpr double kLargestSpokeDegrees = 90.0;
 
 bool IsUsed(const IllumCharacteristics& slot) {
   return slot.SlotMarker == IllumCharacteristics::kUsedSlot;
+}
+
+std::string BaseColorName(const IllumCharacteristics& slot) {
+  const std::string_view name = IllumCharacteristics::GetStrForIllumType(slot.BaseColor);
+  return name.empty() ? "number " + std::to_string(slot.BaseColor) : std::string(name);
 }
 
 auto SourcesOf(const IlluminationConfigurationData& data, const ColorWheelData& wheel) {
@@ -38,9 +45,9 @@ void CheckSource(const IllumCharacteristics& slot, const std::string& name,
   }
   if (slot.BaseColor < IllumCharacteristics::kRed ||
       slot.BaseColor > IllumCharacteristics::kWhite) {
-    report.Error("illumination.base-color", kSources,
-                 name + " has the base color number " + std::to_string(slot.BaseColor) +
-                     ", which the page does not offer");
+    report.Error(
+        "illumination.base-color", kSources,
+        name + " has the base color " + BaseColorName(slot) + ", which the page does not offer");
   }
   if (slot.IsLed != 0 && slot.IsLed != 1) {
     report.Error("illumination.source-kind", kSources,
@@ -56,8 +63,12 @@ void CheckSource(const IllumCharacteristics& slot, const std::string& name,
 
 void CheckUse(const IlluminationConfigurationData& data, const ColorWheelData& wheel,
               const std::string& name, FindingReport& report) {
-  if (std::ranges::count(data.Wheels, wheel.WheelNumber, &ColorWheelData::WheelNumber) > 1) {
-    report.Error("illumination.wheel-number", kWheels, "there is more than one " + name);
+  const auto first =
+      std::ranges::find(data.Wheels, wheel.WheelNumber, &ColorWheelData::WheelNumber);
+  if (&*first != &wheel) {
+    report.Error("illumination.wheel-number", kWheels,
+                 "there is more than one " + name + "; the page shows the first");
+    return;
   }
   const auto sources = SourcesOf(data, wheel);
   if (sources == 0) {
@@ -70,16 +81,19 @@ void CheckUse(const IlluminationConfigurationData& data, const ColorWheelData& w
 }
 
 void CheckWheel(const ColorWheelData& wheel, const std::string& name, FindingReport& report) {
-  const double total =
-      std::accumulate(wheel.Segments.begin(), wheel.Segments.end(), 0.0,
-                      [](double sum, const SSegGeom& segment) { return sum + segment.Size; });
+  const double total = WheelTotal(wheel.Segments);
   if (TotalRefusal(wheel.Segments.size(), total)) {
     report.Error("illumination.wheel-total", kWheels,
                  "the segments of " + name + " add up to " + DegreesText(total) + " degrees");
   }
+  if (!(wheel.SpokeSize >= 0 && wheel.SpokeSize <= kLargestSpokeDegrees)) {
+    report.Warning("illumination.spoke-size", kWheels,
+                   "the spoke size of " + name + " is " + platform::GeneralText(wheel.SpokeSize) +
+                       ", outside 0 to 90");
+  }
   for (std::size_t i = 0; i < wheel.Segments.size(); ++i) {
     const SSegGeom& segment = wheel.Segments[i];
-    const std::string part = "segment " + std::to_string(i + 1) + " of " + name;
+    const std::string part = "segment " + std::to_string(i) + " of " + name;
     if (color_code::Name(segment.Color).empty()) {
       report.Error("illumination.segment-color", kWheels, part + " has no color");
     }
@@ -93,7 +107,8 @@ void CheckWheel(const ColorWheelData& wheel, const std::string& name, FindingRep
 Findings CheckConfiguration(const IlluminationConfigurationData& data) {
   FindingReport report;
   for (std::size_t i = 0; i < data.Sources.size(); ++i) {
-    CheckSource(data.Sources[i], "source " + std::to_string(i + 1), data.Wheels, report);
+    CheckSource(data.Sources[i], "the source in slot " + std::to_string(i + 1), data.Wheels,
+                report);
   }
   for (const ColorWheelData& wheel : data.Wheels) {
     const std::string name = "wheel " + std::to_string(wheel.WheelNumber);

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "host/calc/color_code.h"
-#include "pages/illumination_config/rules/wheel_total.h"
 
 namespace illumination_config {
 namespace {
@@ -21,8 +20,7 @@ std::string BaseColorText(const IllumCharacteristics& slot) {
 std::vector<WheelRow> RowsOf(const ColorWheelData& wheel) {
   std::vector<WheelRow> rows;
   for (const SSegGeom& segment : wheel.Segments) {
-    rows.push_back(
-        {std::string(color_code::Name(segment.Color)), DegreesText(segment.Size), segment.Size});
+    rows.push_back({std::string(color_code::Name(segment.Color)), segment.Size});
   }
   return rows;
 }
@@ -72,8 +70,7 @@ ColorWheelData MakeWheel(const WheelEditor& editor) {
   for (const WheelRow& row : editor.rows) {
     SSegGeom& segment = wheel.Segments.emplace_back();
     segment.Color = color_code::FromName(row.color);
-    const bool edited = !row.size || row.degrees != DegreesText(*row.size);
-    segment.Size = edited ? ReadDegrees(row.degrees) : *row.size;
+    segment.Size = row.size;
   }
   return wheel;
 }

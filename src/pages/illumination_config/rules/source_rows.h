@@ -23,9 +23,7 @@ inline constexpr double kNewSpokeDegrees = 18.0;
 /// One row of a wheel's segment grid.
 struct WheelRow {
   std::string color = "White";
-  std::string degrees = "0";
-  /// The size that `degrees` was made of; it is kept as long as that text is not edited.
-  std::optional<double> size;
+  double size = 0;  ///< degrees; the grid shows it rounded
 
   [[nodiscard]] bool operator==(const WheelRow&) const = default;
 };

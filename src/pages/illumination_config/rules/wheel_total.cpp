@@ -20,9 +20,9 @@ double ReadDegrees(std::string_view text) {
   return number ? number->value : 0.0;
 }
 
-double WheelTotal(std::span<const std::string> degrees) {
+double WheelTotal(std::span<const SSegGeom> segments) {
   double total = 0;
-  for (const std::string& text : degrees) total += ReadDegrees(text);
+  for (const SSegGeom& segment : segments) total += segment.Size;
   return total;
 }
 

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/data/s_seg_geom.h"
+
 namespace illumination_config {
 
 /// A segment's size, or a spoke's, as grid and box show it.
@@ -17,8 +19,8 @@ namespace illumination_config {
 /// What "Total Degrees" shows while no wheel is edited.
 inline constexpr const char* kNoTotalText = "0.0";
 
-/// Sum of a wheel's "Degrees" cells.
-[[nodiscard]] double WheelTotal(std::span<const std::string> degrees);
+/// Sum of the sizes of a wheel's segments, degrees, whatever their colors.
+[[nodiscard]] double WheelTotal(std::span<const SSegGeom> segments);
 /// The message for a wheel of that many rows whose total no turn holds.
 [[nodiscard]] std::optional<std::string> TotalRefusal(std::size_t rows, double total);
 

@@ -32,11 +32,12 @@ bool StoreTimes(IllumCharacteristics& illuminator, const TimeEdits& edits) {
 }
 
 // Whether it belongs into the row, when it is not there, or out of it, when it is.
-bool MustMove(const IllumCharacteristics& illuminator, int row, std::string_view chosen) {
-  if (row < kFixedRows) {
+bool MustMove(const IllumCharacteristics& illuminator, int row,
+              std::optional<std::string_view> chosen) {
+  if (row < kFixedRows || !chosen) {
     return false;
   }
-  const bool isChosen = !chosen.empty() && NameOf(illuminator.Type) == chosen;
+  const bool isChosen = !chosen->empty() && NameOf(illuminator.Type) == *chosen;
   return isChosen != (illuminator.Row == row);
 }
 
@@ -114,7 +115,7 @@ const IllumCharacteristics* ShownIn(const IlluminatorsPageData& data, int row) n
   return found == data.characteristics.end() ? nullptr : &*found;
 }
 
-bool StoreRow(IlluminatorsPageData& data, int row, std::string_view chosen,
+bool StoreRow(IlluminatorsPageData& data, int row, std::optional<std::string_view> chosen,
               const TimeEdits& edits) {
   bool changed = false;
   for (IllumCharacteristics& illuminator : data.characteristics) {

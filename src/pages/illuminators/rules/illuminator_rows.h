@@ -37,6 +37,7 @@ struct TimeField {
 
 inline constexpr double kMinTimeUs = 0.0;
 inline constexpr double kMaxTimeUs = 2000.0;
+inline constexpr int kTimeDecimals = 2;  ///< that a field shows
 
 [[nodiscard]] const std::array<TimeField, 3>& TimeFields() noexcept;
 
@@ -62,9 +63,9 @@ inline constexpr double kMaxTimeUs = 2000.0;
 using TimeEdits = std::array<std::optional<double>, 3>;
 
 /// Stores one row: the illuminator it showed takes the edited times, and the one of the chosen name
-/// comes into the row, keeping the times that it has. `chosen` is the drop-down list's text and is
-/// not asked in a fixed row. True when the data changed.
-[[nodiscard]] bool StoreRow(IlluminatorsPageData& data, int row, std::string_view chosen,
-                            const TimeEdits& edits);
+/// comes into the row, keeping the times that it has. `chosen` is the drop-down list's text,
+/// nothing when no choice was made; it is not asked in a fixed row. True when the data changed.
+[[nodiscard]] bool StoreRow(IlluminatorsPageData& data, int row,
+                            std::optional<std::string_view> chosen, const TimeEdits& edits);
 
 }  // namespace illuminators

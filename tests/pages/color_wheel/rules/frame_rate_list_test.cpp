@@ -49,16 +49,24 @@ TEST(FrameRateList, WithoutSupportedRatesOffersTheDefaultAlone) {
 
 TEST(FrameRateList, TheSecondRateFollowsUnlessTheWheelSpinsFourTimes) {
   ColorWheelData wheel;
-  EXPECT_TRUE(color_wheel::SelectFrameRate("  50.00", wheel));
+  EXPECT_TRUE(color_wheel::SelectFrameRate("  50.00", {}, wheel));
   EXPECT_EQ(wheel.NominalFrameRate, 50);
   EXPECT_EQ(wheel.SecondFrameRate, 50);
-  EXPECT_FALSE(color_wheel::SelectFrameRate("  50.00", wheel));
-  EXPECT_FALSE(color_wheel::SelectFrameRate("", wheel));
-  EXPECT_FALSE(color_wheel::SelectFrameRate("fast", wheel));
+  EXPECT_FALSE(color_wheel::SelectFrameRate("  50.00", {}, wheel));
+  EXPECT_FALSE(color_wheel::SelectFrameRate("", {}, wheel));
+  EXPECT_FALSE(color_wheel::SelectFrameRate("fast", {}, wheel));
   wheel.SpinValue = 4.0;
-  EXPECT_TRUE(color_wheel::SelectFrameRate("  60.00", wheel));
+  EXPECT_TRUE(color_wheel::SelectFrameRate("  60.00", {}, wheel));
   EXPECT_EQ(wheel.NominalFrameRate, 60);
   EXPECT_EQ(wheel.SecondFrameRate, 50);
+}
+
+TEST(FrameRateList, AnEntryStandsForTheWholeRateThatItShows) {
+  const double supported[] = {23.976, 24, 59.94};
+  ColorWheelData wheel;
+  EXPECT_TRUE(color_wheel::SelectFrameRate("  23.98", supported, wheel));
+  EXPECT_EQ(wheel.NominalFrameRate, 23.976);
+  EXPECT_EQ(MakeFrameRateList(supported, 60, wheel.NominalFrameRate).selected, 0u);
 }
 
 }  // namespace

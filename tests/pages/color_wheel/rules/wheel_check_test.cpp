@@ -38,6 +38,9 @@ std::vector<std::string> Rules(const ColorWheelData& wheel, std::vector<double> 
 TEST(WheelCheck, HasNothingToSayOfAGoodWheel) {
   EXPECT_THAT(Rules(ThreeColors(), {50, 60}), IsEmpty());
   EXPECT_THAT(Rules(ColorWheelData()), IsEmpty());
+  ColorWheelData sevenths;
+  for (int i = 0; i < 7; ++i) Add(sevenths, i % 3, 51.42857);
+  EXPECT_THAT(Rules(sevenths), IsEmpty());
 }
 
 TEST(WheelCheck, KnowsWhatThePageRefuses) {
@@ -56,8 +59,8 @@ TEST(WheelCheck, KnowsWhatThePageRefuses) {
                                         "E color-wheel.total", "E color-wheel.spoke-range",
                                         "E color-wheel.frame-rate"));
   const Findings findings = color_wheel::CheckWheel(wheel, "RGB", {});
-  EXPECT_EQ(findings[0].text, "the size of segment 1 is 361, outside 0 to 360");
-  EXPECT_EQ(findings[1].text, "LW Factor of segment 1 is 1.5, outside 0 to 1");
+  EXPECT_EQ(findings[0].text, "the size of segment 0 is 361, outside 0 to 360");
+  EXPECT_EQ(findings[1].text, "LW Factor of segment 0 is 1.5, outside 0 to 1");
 }
 
 TEST(WheelCheck, WarnsOfWhatTheDeviceShows) {

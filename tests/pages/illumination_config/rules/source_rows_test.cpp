@@ -72,7 +72,7 @@ TEST(SourceRows, AFullConfigurationReloadsWhole) {
   const IlluminationConfigurationData data = Full();
   const std::vector<SourceRow> rows = LoadRows(data);
   ASSERT_EQ(rows.size(), 8u);
-  EXPECT_EQ(rows[4].editor->rows[0].degrees, "200.00");
+  EXPECT_EQ(rows[4].editor->rows[0].size, 200);
   EXPECT_EQ(rows[7].editor->rows[1].color, "NDMagenta");
   EXPECT_FALSE(rows[0].viaWheel);
   EXPECT_EQ(StoreRows(rows, data), data);
@@ -83,8 +83,8 @@ TEST(SourceRows, EveryTickedSourceGetsTheWheelItNames) {
   std::swap(data.Wheels[0], data.Wheels[2]);
   data.Sources[4].WheelNumber = 9;
   const std::vector<SourceRow> rows = LoadRows(data);
-  EXPECT_EQ(rows[1].editor->rows[0].degrees, "100.12");
-  EXPECT_EQ(rows[7].editor->rows[0].degrees, "300.00");
+  EXPECT_EQ(rows[1].editor->rows[0].size, 100.12345);
+  EXPECT_EQ(rows[7].editor->rows[0].size, 300);
   EXPECT_TRUE(rows[4].viaWheel);
   EXPECT_FALSE(rows[4].editor);
   // Wheels are numbered anew in row order.
@@ -109,8 +109,8 @@ TEST(SourceRows, ShowsAndStoresASource) {
 
   rows.emplace_back();
   rows[1].editor = WheelEditor();
-  rows[1].editor->rows.push_back({.color = "Cyan", .degrees = "90.5abc", .size = {}});
-  rows[1].editor->rows.push_back({.color = "Mauve", .degrees = "wide", .size = {}});
+  rows[1].editor->rows.push_back({.color = "Cyan", .size = 90.5});
+  rows[1].editor->rows.push_back({.color = "Mauve", .size = 0});
   const IlluminationConfigurationData stored = StoreRows(rows, data);
   EXPECT_EQ(stored.Sources[0].BaseColor, IllumCharacteristics::kYellow);
   EXPECT_EQ(stored.Sources[1].BaseColor, IllumCharacteristics::kWhite);
@@ -135,7 +135,7 @@ TEST(SourceRows, WhatNobodyEditedKeepsItsValue) {
   EXPECT_EQ(rows[0].baseColor, "");
   EXPECT_EQ(StoreRows(rows, data), data);
   // Editing one cell of a wheel leaves the others their digits.
-  rows[1].editor->rows[1].degrees = "10";
+  rows[1].editor->rows[1].size = 10;
   rows.erase(rows.begin());
   const IlluminationConfigurationData stored = StoreRows(rows, data);
   EXPECT_EQ(stored.Wheels[0].Segments[0].Size, 100.12345);
@@ -147,10 +147,10 @@ TEST(SourceRows, WhatNobodyEditedKeepsItsValue) {
 }
 
 TEST(WheelTotal, RefusesWhatNoTurnHolds) {
-  const std::vector<std::string> degrees{"200", "200", "x", ""};
-  const double total = illumination_config::WheelTotal(degrees);
+  const std::vector<SSegGeom> segments{{.Color = 0, .Size = 200}, {.Color = -1, .Size = 200}};
+  const double total = illumination_config::WheelTotal(segments);
   EXPECT_EQ(illumination_config::DegreesText(total), "400.00");
-  EXPECT_NE(illumination_config::TotalRefusal(4, total), std::nullopt);
+  EXPECT_NE(illumination_config::TotalRefusal(2, total), std::nullopt);
   EXPECT_EQ(illumination_config::TotalRefusal(0, total), std::nullopt);
   EXPECT_NE(illumination_config::TotalRefusal(1, -0.01), std::nullopt);
   EXPECT_EQ(illumination_config::TotalRefusal(1, 360), std::nullopt);
@@ -169,15 +169,20 @@ TEST(ConfigurationCheck, SaysWhatIsWrong) {
   data.Wheels[0].Segments[0].Size = -1;
   data.Wheels[0].Segments[1].Color = -1;
   data.Wheels[2].Segments[0].Size = 301;
+  data.Wheels[2].SpokeSize = -1;
   data.WheelSlots = 3;
   EXPECT_THAT(Rules(data),
               ElementsAre("W illumination.slot-marker", "E illumination.base-color",
                           "E illumination.source-kind", "E illumination.missing-wheel",
                           "E illumination.segment-size", "E illumination.segment-color",
                           "W illumination.unused-wheel", "W illumination.shared-wheel",
-                          "E illumination.wheel-total", "E illumination.wheel-slots"));
+                          "E illumination.wheel-total", "W illumination.spoke-size",
+                          "E illumination.wheel-slots"));
+  const Findings findings = CheckConfiguration(data);
+  EXPECT_EQ(findings[1].text,
+            "the source in slot 2 has the base color IR, which the page does not offer");
   data.Wheels[1].WheelNumber = 1;
-  EXPECT_THAT(Rules(data), testing::Contains("E illumination.wheel-number").Times(2));
+  EXPECT_THAT(Rules(data), testing::Contains("E illumination.wheel-number").Times(1));
 }
 
 }  // namespace
