@@ -63,9 +63,10 @@ double Seconds(Work work) {
 
 double SecondsOfLibxslt(const char* sheet, const Document& input) {
   const std::string path = Framework::GetToolFilePath(nullptr, sheet);
-  const auto compiled = platform::xml::Stylesheet::Compile(
-      Framework::ReadStylesheetFile(path, nullptr), path);
-  return Seconds([&] { return xsltApplyStylesheet(compiled.Handle(), input.Handle(), nullptr) != nullptr; });
+  const auto compiled =
+      platform::xml::Stylesheet::Compile(Framework::ReadStylesheetFile(path, nullptr), path);
+  return Seconds(
+      [&] { return xsltApplyStylesheet(compiled.Handle(), input.Handle(), nullptr) != nullptr; });
 }
 
 void MakeDatabase(const std::string& file, std::size_t pulses) {

@@ -8,29 +8,45 @@ namespace GUI {
 
 namespace {
 
+using Counts = bool (*)(const QWidget& field, Qt::FocusReason reason);
+
 class LeaveFilter : public QObject {
  public:
-  LeaveFilter(QWidget& field, std::function<void()> then)
-      : QObject(&field), then_(std::move(then)) {
+  LeaveFilter(QWidget& field, Counts counts, std::function<void()> then)
+      : QObject(&field), counts_(counts), then_(std::move(then)) {
     field.installEventFilter(this);
   }
 
  protected:
   bool eventFilter(QObject* field, QEvent* event) override {
-    const bool isLeft = event->type() == QEvent::FocusOut &&
-                        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason;
+    const bool isLeft =
+        event->type() == QEvent::FocusOut &&
+        counts_(*static_cast<QWidget*>(field), static_cast<QFocusEvent*>(event)->reason());
     if (isLeft) then_();
     return QObject::eventFilter(field, event);
   }
 
  private:
+  Counts counts_;
   std::function<void()> then_;
 };
+
+bool IsLeft(const QWidget& /*field*/, Qt::FocusReason reason) {
+  return reason != Qt::PopupFocusReason;
+}
+
+bool IsLeftForAnother(const QWidget& field, Qt::FocusReason reason) {
+  return field.isVisible() && IsLeft(field, reason) && reason != Qt::ActiveWindowFocusReason;
+}
 
 }  // namespace
 
 void WhenLeft(QWidget& field, std::function<void()> then) {
-  new LeaveFilter(field, std::move(then));
+  new LeaveFilter(field, IsLeft, std::move(then));
+}
+
+void WhenLeftForAnother(QWidget& field, std::function<void()> then) {
+  new LeaveFilter(field, IsLeftForAnother, std::move(then));
 }
 
 }  // namespace GUI

@@ -54,14 +54,14 @@ TEST_F(Composed, IsOneDocumentForAStylesheet) {
   {
     const ComposedDocument composed(first_,
                                     {second_.Root().Child("three"), first_.Root().Child("one")});
-    platform::xml::Processor processor(platform::xml::Stylesheet::Compile(
-        Document::Parse(R"xml(<xsl:stylesheet version="1.0"
+    platform::xml::Processor processor(
+        platform::xml::Stylesheet::Compile(Document::Parse(R"xml(<xsl:stylesheet version="1.0"
             xmlns:xsl="http://www.w3.org/1999/XSL/Transform">
           <xsl:key name="n" match="r/*" use="@n"/>
           <xsl:template match="/"><o><xsl:for-each select="//@c"><xsl:value-of
             select="name(/*)"/><xsl:value-of select="name(key('n', '1'))"/></xsl:for-each>
             <xsl:value-of select="count(//node())"/></o></xsl:template></xsl:stylesheet>)xml"),
-        "test"));
+                                           "test"));
     processor.SetInput(composed.Get());
     processor.SetOutput(output);
     ASSERT_TRUE(processor.Transform()) << processor.Error();
