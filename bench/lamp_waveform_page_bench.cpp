@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 
+#include "offscreen_main.h"
 #include "pages/lamp_waveform/rules/pulse_list.h"
 #include "pages/lamp_waveform/rules/selection.h"
 #include "pages/lamp_waveform/sys_def_lamp_waveform_page.h"
@@ -80,11 +81,4 @@ BENCHMARK(ChooseWaveform)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication app(argc, argv);
-  QApplication::setStyle(QStringLiteral("Fusion"));
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
+int main(int argc, char** argv) { return bench::RunOffscreen(argc, argv); }

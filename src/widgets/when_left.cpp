@@ -8,45 +8,57 @@ namespace GUI {
 
 namespace {
 
-using Counts = bool (*)(const QWidget& field, Qt::FocusReason reason);
-
 class LeaveFilter : public QObject {
  public:
-  LeaveFilter(QWidget& field, Counts counts, std::function<void()> then)
-      : QObject(&field), counts_(counts), then_(std::move(then)) {
+  LeaveFilter(QWidget& field, std::function<void()> then)
+      : QObject(&field), then_(std::move(then)) {
     field.installEventFilter(this);
   }
 
  protected:
+  [[nodiscard]] virtual bool IsLeft(const QWidget& /*field*/, Qt::FocusReason reason) const {
+    return reason != Qt::PopupFocusReason;
+  }
+  virtual bool Tell(QObject& /*field*/, QEvent& /*event*/) {
+    then_();
+    return false;
+  }
   bool eventFilter(QObject* field, QEvent* event) override {
     const bool isLeft =
         event->type() == QEvent::FocusOut &&
-        counts_(*static_cast<QWidget*>(field), static_cast<QFocusEvent*>(event)->reason());
-    if (isLeft) then_();
-    return QObject::eventFilter(field, event);
+        IsLeft(*static_cast<QWidget*>(field), static_cast<QFocusEvent*>(event)->reason());
+    return isLeft && Tell(*field, *event);
   }
 
- private:
-  Counts counts_;
   std::function<void()> then_;
 };
 
-bool IsLeft(const QWidget& /*field*/, Qt::FocusReason reason) {
-  return reason != Qt::PopupFocusReason;
-}
+class LeaveForAnotherFilter : public LeaveFilter {
+ public:
+  using LeaveFilter::LeaveFilter;
 
-bool IsLeftForAnother(const QWidget& field, Qt::FocusReason reason) {
-  return field.isVisible() && IsLeft(field, reason) && reason != Qt::ActiveWindowFocusReason;
-}
+ protected:
+  [[nodiscard]] bool IsLeft(const QWidget& field, Qt::FocusReason reason) const override {
+    return field.isVisible() && reason != Qt::PopupFocusReason &&
+           reason != Qt::ActiveWindowFocusReason;
+  }
+  /// The field is done with the event first: what is told may give it the focus back, with its
+  /// text selected.
+  bool Tell(QObject& field, QEvent& event) override {
+    field.event(&event);
+    then_();
+    return true;
+  }
+};
 
 }  // namespace
 
 void WhenLeft(QWidget& field, std::function<void()> then) {
-  new LeaveFilter(field, IsLeft, std::move(then));
+  new LeaveFilter(field, std::move(then));
 }
 
 void WhenLeftForAnother(QWidget& field, std::function<void()> then) {
-  new LeaveFilter(field, IsLeftForAnother, std::move(then));
+  new LeaveForAnotherFilter(field, std::move(then));
 }
 
 }  // namespace GUI

@@ -238,7 +238,7 @@ void SysDefLampOpticsPage::ChooseOptics(int entry) {
 /// With none current there is nothing to rename: the first one is chosen.
 void SysDefLampOpticsPage::OpticsTyped() {
   if (lamp_optics::CurrentOptics(data_->Optics)) return;
-  optics_->ForgetTyping();
+  ShowLibraries();
   ChooseOptics(0);
 }
 

@@ -25,8 +25,6 @@ class LibraryBox : public QObject {
 
   /// The text that was typed since the list was last shown; nothing when none was.
   [[nodiscard]] std::optional<std::string> TypedName() const;
-  /// From now on the text counts as not typed, until the next key.
-  void ForgetTyping() { typed_ = false; }
 
  signals:
   void entryChosen(int entry);

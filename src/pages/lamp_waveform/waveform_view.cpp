@@ -155,7 +155,7 @@ void WaveformView::paintEvent(QPaintEvent*) {
   DrawFrame(painter);
 }
 
-/// The segments' colors, faint behind the current and full in the strip_.
+/// The segments' colors, faint behind the current and full in the strip.
 void WaveformView::DrawSegments(QPainter& painter) const {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, false);
@@ -211,7 +211,7 @@ void WaveformView::DrawAxes(QPainter& painter) const {
     painter.drawLine(QPointF(plot_.left(), y), QPointF(plot_.right(), y));
     painter.setPen(theme.ink);
     painter.drawText(QRectF(0, y - line / 2, plot_.left() - kGap, line),
-                     Qt::AlignRight | Qt::AlignVCenter, QString::number(gain, 'f', 1));
+                     Qt::AlignRight | Qt::AlignVCenter, QString::number(gain, 'g', 4));
   }
   painter.setPen(QPen(theme.ink, 1, Qt::DotLine));
   painter.drawLine(QPointF(plot_.left(), YOf(1)), QPointF(plot_.right(), YOf(1)));

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
+
 #include "host/gui/message_box.h"
 #include "model/illuminators_page_data.h"
 #include "support/page_form.h"
@@ -94,6 +96,10 @@ struct Entry {
   double stored;
 };
 
+void PrintTo(const Entry& entry, std::ostream* out) {
+  *out << std::string(entry.text).substr(0, 20);
+}
+
 class IlluminatorTimes : public testing::TestWithParam<Entry> {};
 
 TEST_P(IlluminatorTimes, AreTakenWhenTheFieldIsLeftOrRefusedOnce) {
@@ -113,7 +119,9 @@ TEST_P(IlluminatorTimes, AreTakenWhenTheFieldIsLeftOrRefusedOnce) {
   EXPECT_EQ(messages[0].text, entry.prompt);
   EXPECT_EQ(messages[0].style, msgbox::kIconWarning);
   EXPECT_EQ(page.Time(1, "Disable Delay"), entry.text) << "stays to be mended";
-  EXPECT_TRUE(page.At(1, "Disable Delay").Widget().hasFocus());
+  const auto& box = dynamic_cast<QLineEdit&>(page.At(1, "Disable Delay").Widget());
+  EXPECT_TRUE(box.hasFocus());
+  EXPECT_EQ(box.selectedText(), box.text()) << "the next key begins a new text";
   EXPECT_FALSE(page.TakeChanged());
   EXPECT_FALSE(page.Apply());
 }

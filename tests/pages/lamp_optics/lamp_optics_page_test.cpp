@@ -118,6 +118,15 @@ TEST(LampOpticsPage, WithoutACurrentRecordItsValueIsEmpty) {
   EXPECT_EQ(page.Now().Optics.CurrentOptics, 0);
 }
 
+TEST(LampOpticsPage, AnEmptyListTakesNoName) {
+  Page page("", "");
+  for (const char* list : {"Lamp/Name", "Optics/Name"}) {
+    page.Control(list).SetText("typed");
+    EXPECT_EQ(page.Text(list), "");
+  }
+  EXPECT_FALSE(page.TakeChanged());
+}
+
 TEST(LampOpticsPage, RemovingMakesTheOneBeforeCurrent) {
   Page page;
   page.Control("Lamp/Remove").Click();
@@ -240,6 +249,10 @@ struct Name {
   std::string message;  ///< empty: none
 };
 
+void PrintTo(const Name& name, std::ostream* out) {
+  *out << name.list << ": " << name.typed.substr(0, 20);
+}
+
 class LampOpticsNames : public testing::TestWithParam<Name> {};
 
 TEST_P(LampOpticsNames, AreTakenWhenTheListIsLeftUnlessAnotherHasThem) {
@@ -294,6 +307,8 @@ struct Value {
   const char* text;
   const char* message;  ///< empty: taken
 };
+
+void PrintTo(const Value& value, std::ostream* out) { *out << value.box << ": " << value.text; }
 
 class LampOpticsValues : public testing::TestWithParam<Value> {};
 
@@ -388,6 +403,10 @@ struct ModelEntry {
   const char* text;
   const char* shown;  ///< null: refused
 };
+
+void PrintTo(const ModelEntry& entry, std::ostream* out) {
+  *out << entry.box << ": " << entry.text;
+}
 
 class OpticsModelEntries : public testing::TestWithParam<ModelEntry> {};
 

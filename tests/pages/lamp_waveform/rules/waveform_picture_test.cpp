@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "pages/lamp_waveform/rules/pulse_list.h"
 #include "pages/lamp_waveform/rules/selection.h"
 #include "pages/lamp_waveform/rules/time_window.h"
@@ -48,6 +50,13 @@ TEST(WaveformPicture, PutsPulsesAndWheelOnOneTimeAxis) {
   EXPECT_EQ(lamp_waveform::RowAt(picture, green + 60, 20), Row(1)) << "near enough";
   EXPECT_EQ(lamp_waveform::SegmentRowAt(picture, green + 1), Row());
   EXPECT_EQ(lamp_waveform::RowAt(picture, 10, 0), Row(0));
+
+  auto& pulses = data.LampWaveformDB[0].LWData[0].VecPulses;
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  pulses[0] = PulseInfo(true, "R00", kInfinity, 1, 1, 1);
+  pulses[2] = PulseInfo(true, "B00", 2, 1, 1, kInfinity);
+  EXPECT_EQ(lamp_waveform::MakePicture(data).pulses.size(), 1u) << "the others have no place";
+  EXPECT_EQ(lamp_waveform::MakePicture(data).highGain, 2.5);
 
   data.PCGroups[0].BitwSelectRateFlags = {false};
   EXPECT_EQ(lamp_waveform::MakePicture(data).note, "The group type '2D' has no rate selected.");
