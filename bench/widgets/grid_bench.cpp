@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+#include "offscreen_main.h"
 #include "widgets/dynamic_data_grid.h"
 
 namespace {
@@ -177,11 +178,4 @@ GRID_BENCHMARK(FindRowsById);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication app(argc, argv);
-  QApplication::setStyle(QStringLiteral("Fusion"));
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
+int main(int argc, char** argv) { return bench::RunOffscreen(argc, argv); }

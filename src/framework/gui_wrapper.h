@@ -14,7 +14,9 @@ namespace Framework {
 
 /// Binds a page to its data object and to the policies that move the object between the run-time
 /// database and the page. A page offers SetData(Data*) and a static CheckData(const Data&,
-/// const OstProject*), and may offer a static Explain(const Data&, const OstProject*, what).
+/// const OstProject*), and may offer a static Explain(const Data&, const OstProject*, what). A page
+/// that shows what another page edits names those fragments, as a static ForeignFragments(), and
+/// offers TakeForeign(const Data&): it is handed them, read anew, whenever it is activated.
 template <class Page, class In, class Out>
 class GUIWrapper : public GUIWrapperNoOp<Page> {
  public:
@@ -24,6 +26,8 @@ class GUIWrapper : public GUIWrapperNoOp<Page> {
       : data_(std::make_unique<Data>()),
         in_(std::make_unique<In>(this->page_->ToolName())),
         out_(std::make_unique<Out>(this->page_->ToolName())) {}
+  /// The window goes first: its controls work on the page and its data.
+  ~GUIWrapper() override { this->CloseWindow(); }
 
   bool ConfigureInTransform(const std::vector<const char*>& names) override {
     return in_->LoadTransform(names);
@@ -39,6 +43,18 @@ class GUIWrapper : public GUIWrapperNoOp<Page> {
   bool WriteToRunTimeDB() override {
     RunTimeDB* database = this->Database();
     return database && out_ && data_ && out_->Transform(*database, *data_);
+  }
+
+  int OnSetActive() override {
+    if constexpr (requires { Page::ForeignFragments(); }) {
+      const RunTimeDB* database = this->Database();
+      Data foreign;
+      if (database && this->loaded_ && InTransformLoaded() &&
+          in_->Transform(*database, Page::ForeignFragments(), foreign)) {
+        this->WrappedAs().TakeForeign(foreign);
+      }
+    }
+    return this->page_->OnSetActive();
   }
 
   [[nodiscard]] bool InTransformLoaded() const override { return in_->StylesheetLoaded(); }

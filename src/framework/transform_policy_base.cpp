@@ -50,9 +50,10 @@ void TransformPolicyBase::LoadStylesheet(const std::vector<const char*>& names) 
 }
 
 std::optional<Document> TransformPolicyBase::Run(const RunTimeDB& database,
+                                                 const std::vector<std::string>& fragments,
                                                  platform::xml::Element last) const {
   std::optional<Document> made;
-  database.Lend(neededFragments_, last, [&](const Document& input) {
+  database.Lend(fragments, last, [&](const Document& input) {
     Processor processor(*stylesheet_);
     Document output;
     processor.SetInput(input);

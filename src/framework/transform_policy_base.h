@@ -40,10 +40,11 @@ class TransformPolicyBase {
   /// go. A file that is missing or does not load leaves the policy not valid. Throws OstException
   /// "Cannot open archive for input: PATH" when a file is there and cannot be opened.
   void LoadStylesheet(const std::vector<const char*>& names);
-  /// Runs the stylesheet on the needed fragments, with `last` behind them where there is one;
-  /// nothing when it did not succeed.
-  [[nodiscard]] std::optional<platform::xml::Document> Run(const RunTimeDB& database,
-                                                           platform::xml::Element last) const;
+  /// Runs the stylesheet on these fragments, with `last` behind them where there is one; nothing
+  /// when it did not succeed.
+  [[nodiscard]] std::optional<platform::xml::Document> Run(
+      const RunTimeDB& database, const std::vector<std::string>& fragments,
+      platform::xml::Element last) const;
 
   bool valid_ = false;
   std::optional<platform::xml::Stylesheet> stylesheet_;

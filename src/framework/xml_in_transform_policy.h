@@ -28,9 +28,14 @@ class XMLInTransformPolicy : public TransformPolicyBase {
 
   /// True without a stylesheet, with `data` as it was.
   bool Transform(const RunTimeDB& database, Data& data) const {
+    return Transform(database, neededFragments_, data);
+  }
+  /// The same from these fragments alone.
+  bool Transform(const RunTimeDB& database, const std::vector<std::string>& fragments,
+                 Data& data) const {
     if (!valid_) return true;
     if (!stylesheet_) return false;
-    const auto inputs = Run(database, platform::xml::Element());
+    const auto inputs = Run(database, fragments, platform::xml::Element());
     return inputs && XMLDOMMgr<Data>(*inputs).Load(data, "Inputs");
   }
 };

@@ -34,7 +34,7 @@ class XMLOutTransformPolicy : public TransformPolicyBase {
     // Half an object must not take the place of a whole one, so a failed store ends here.
     if (!XMLDOMMgr<Data>(archive).Store(data, "ModuleOutputs")) return false;
     if (!stylesheet_) return false;
-    const auto stored = Run(database, archive.Root());
+    const auto stored = Run(database, neededFragments_, archive.Root());
     return stored && database.SetDOM(*stored);
   }
 };

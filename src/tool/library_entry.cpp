@@ -6,6 +6,7 @@
 #include "framework/gui_instantiator.h"
 #include "host/data/color_wheel_data.h"
 #include "host/data/illumination_configuration_data.h"
+#include "host/data/lamp_optics_data.h"
 #include "host/data/pixmeld_control_data.h"
 #include "host/gui/class_registry.h"
 #include "host/gui/extension_module.h"
@@ -15,6 +16,7 @@
 #include "pages/illumination_config/illumination_config_page.h"
 #include "pages/illuminators/illuminators_page.h"
 #include "pages/lamp_aging/slr_pulse_page.h"
+#include "pages/lamp_optics/lamp_optics_page.h"
 #include "pages/lamp_waveform/sys_def_lamp_waveform_page.h"
 #include "pages/pixmeld/pixmeld_page.h"
 #include "tool/identity.h"
@@ -42,6 +44,7 @@ const XMLPageInstantiator<SysDefFrameRatesPage, SysDefFrameRatesPageData> kFrame
     "FrameRatesPage");
 const XMLPageInstantiator<ids::SysDefIllumConfigPage, IlluminationConfigurationData>
     kIlluminationConfig("IlluminatorConfigPage");
+const XMLPageInstantiator<SysDefLampOpticsPage, LampOpticsData> kLampOptics("LampOpticsPage");
 const XMLPageInstantiator<ids::SysDefLampWaveformPage, GUIInputsData> kLampWaveform(
     "SysDefLampWaveformPage");
 

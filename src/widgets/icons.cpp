@@ -81,6 +81,8 @@ const char* FileName(Image image) {
       return "export";
     case Image::kDropDown:
       return "drop_down";
+    case Image::kLens:
+      return "lens";
   }
   return "";
 }

@@ -18,7 +18,8 @@ enum class Image {
   kDelete,
   kImport,
   kExport,
-  kDropDown
+  kDropDown,
+  kLens
 };
 
 /// The icon of an image button or a cell. Its colors are the palette's, with a disabled form, and

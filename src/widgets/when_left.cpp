@@ -16,21 +16,49 @@ class LeaveFilter : public QObject {
   }
 
  protected:
+  [[nodiscard]] virtual bool IsLeft(const QWidget& /*field*/, Qt::FocusReason reason) const {
+    return reason != Qt::PopupFocusReason;
+  }
+  virtual bool Tell(QObject& /*field*/, QEvent& /*event*/) {
+    then_();
+    return false;
+  }
   bool eventFilter(QObject* field, QEvent* event) override {
-    const bool isLeft = event->type() == QEvent::FocusOut &&
-                        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason;
-    if (isLeft) then_();
-    return QObject::eventFilter(field, event);
+    const bool isLeft =
+        event->type() == QEvent::FocusOut &&
+        IsLeft(*static_cast<QWidget*>(field), static_cast<QFocusEvent*>(event)->reason());
+    return isLeft && Tell(*field, *event);
   }
 
- private:
   std::function<void()> then_;
+};
+
+class LeaveForAnotherFilter : public LeaveFilter {
+ public:
+  using LeaveFilter::LeaveFilter;
+
+ protected:
+  [[nodiscard]] bool IsLeft(const QWidget& field, Qt::FocusReason reason) const override {
+    return field.isVisible() && reason != Qt::PopupFocusReason &&
+           reason != Qt::ActiveWindowFocusReason;
+  }
+  /// The field is done with the event first: what is told may give it the focus back, with its
+  /// text selected.
+  bool Tell(QObject& field, QEvent& event) override {
+    field.event(&event);
+    then_();
+    return true;
+  }
 };
 
 }  // namespace
 
 void WhenLeft(QWidget& field, std::function<void()> then) {
   new LeaveFilter(field, std::move(then));
+}
+
+void WhenLeftForAnother(QWidget& field, std::function<void()> then) {
+  new LeaveForAnotherFilter(field, std::move(then));
 }
 
 }  // namespace GUI

@@ -12,4 +12,8 @@ namespace GUI {
 /// count.
 void WhenLeft(QWidget& field, std::function<void()> then);
 
+/// The same only where another control of the window takes the focus: not when the window is left
+/// or closed, so that no question is asked then, and not for a message box of the field's own.
+void WhenLeftForAnother(QWidget& field, std::function<void()> then);
+
 }  // namespace GUI

@@ -133,7 +133,7 @@ TEST_P(SaveFault, AFileSizeLimitLeavesTheOldDatabase) {
 // The disk is full after so many bytes, from the first of the lock or the copy kept aside to the
 // last of the new database.
 TEST_P(SaveFault, AFullDiskLeavesTheOldOrTheNewDatabase) {
-  const std::size_t step = IsLong() ? 64 : 1600;
+  const std::size_t step = old_.size() / (IsLong() ? 100 : 4);
   int failed = 0;
   for (std::size_t room = 0; room < 2 * old_.size() + 200; room += step) {
     command_.Write(Command::kDatabase, old_);
@@ -161,7 +161,7 @@ TEST_P(SaveFault, AFolderThatTakesNothingKeepsTheOldDatabase) {
 #endif
 
 TEST_P(SaveFault, ACutDatabaseIsRefusedAndKept) {
-  const std::size_t step = IsLong() ? 64 : 640;
+  const std::size_t step = IsLong() ? 64 : old_.size() / 10;
   for (std::size_t length = 0; length < old_.size() - 10; length += step) {
     const std::string cut = old_.substr(0, length);
     command_.Write(Command::kDatabase, cut);

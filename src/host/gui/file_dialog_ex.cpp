@@ -33,6 +33,11 @@ QStringList NameFilters(const std::string& filter) {
   return filters;
 }
 
+/// "*.lmp", ".lmp" and "lmp" all stand for "lmp".
+QString SuffixOf(const std::string& extension) {
+  return QString::fromStdString(extension).section('.', -1);
+}
+
 std::optional<std::filesystem::path> ChooseOnScreen(const CFileDialogEx& options) {
   const QString folder = options.startFolder.empty()
                              ? LastFolder()
@@ -40,7 +45,7 @@ std::optional<std::filesystem::path> ChooseOnScreen(const CFileDialogEx& options
   QFileDialog dialog(HostMainWindow(), QString::fromStdString(options.title), folder);
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(options.filter));
-  dialog.setDefaultSuffix(QString::fromStdString(options.defaultExtension));
+  dialog.setDefaultSuffix(SuffixOf(options.defaultExtension));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   LastFolder() = dialog.directory().absolutePath();
   return QFileInfo(dialog.selectedFiles().constFirst()).filesystemAbsoluteFilePath();

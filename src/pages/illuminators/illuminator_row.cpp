@@ -3,14 +3,14 @@
 #include "pages/illuminators/illuminator_row.h"
 
 #include <QComboBox>
-#include <QFocusEvent>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLineEdit>
-#include <algorithm>
 
 #include "host/gui/number_box.h"
 #include "host/gui/slow_tool_tip.h"
 #include "widgets/focus_wheel.h"
+#include "widgets/when_left.h"
 
 namespace illuminators {
 
@@ -20,14 +20,6 @@ constexpr const char* kListToolTip = "Use this combobox to add or remove a non-R
 constexpr Framework::NumberFormat kTimeFormat{kTimeDecimals, {kMinTimeUs, kMaxTimeUs}};
 constexpr int kNameWidth = 150;
 constexpr int kTimeWidth = 110;
-
-/// Whether a field that loses the focus is left for another one. Its menu gives the focus back, and
-/// so does another window, the message about the field itself among them; a field that goes away
-/// with its window is not left by the person.
-bool IsLeft(const QWidget& field, const QFocusEvent& event) {
-  return field.isVisible() && event.reason() != Qt::PopupFocusReason &&
-         event.reason() != Qt::ActiveWindowFocusReason;
-}
 
 QString AccessibleName(int row, const char* part) {
   return QStringLiteral("Row %1/%2").arg(row).arg(QLatin1String(part));
@@ -82,6 +74,7 @@ void IlluminatorRow::MakeTimes(QWidget& window, QGridLayout& grid) {
     box->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     box->setMinimumWidth(kTimeWidth);
     box->installEventFilter(this);
+    GUI::WhenLeftForAnother(*box, [this] { emit timeLeft(); });
     connect(box, &QLineEdit::returnPressed, this, [this] { emit timeLeft(); });
     grid.addWidget(box, row_ + 1, static_cast<int>(i) + 1);
     times_[i] = box;
@@ -174,11 +167,6 @@ std::optional<TimeEdits> IlluminatorRow::TakeTimes() {
 
 bool IlluminatorRow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) emit entered();
-  const bool isTime = std::ranges::find(times_, watched) != times_.end();
-  if (isTime && event->type() == QEvent::FocusOut &&
-      IsLeft(static_cast<QWidget&>(*watched), static_cast<QFocusEvent&>(*event))) {
-    emit timeLeft();
-  }
   return QObject::eventFilter(watched, event);
 }
 

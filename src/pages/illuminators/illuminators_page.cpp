@@ -3,6 +3,7 @@
 #include "pages/illuminators/illuminators_page.h"
 
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include "framework/tool_name.h"
 #include "host/calc/helper.h"
@@ -91,6 +92,12 @@ int IlluminatorsPage::UpdateData(int save) {
   return 1;
 }
 
+int IlluminatorsPage::OnKillActive() {
+  // A click on another page leaves the field first.
+  if (justRefused_) return 0;
+  return UpdateData(1) && UpdateData(0) ? 1 : 0;
+}
+
 // Data to controls.
 
 void IlluminatorsPage::ShowIlluminators() {
@@ -134,6 +141,8 @@ void IlluminatorsPage::Exchange() {
   const int taken = Take();
   ShowIlluminators();
   ShowTimes(taken);
+  justRefused_ = taken < kRows;
+  if (justRefused_) QTimer::singleShot(0, rows_[0], [this] { justRefused_ = false; });
 }
 
 Findings IlluminatorsPage::CheckData(const IlluminatorsPageData& data,

@@ -2,44 +2,20 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "pages/lamp_waveform/lamp_waveform_pulses_page.h"
 
-#include <QHeaderView>
-#include <QSignalBlocker>
 #include <utility>
 
 #include "host/gui/message_box.h"
 #include "host/gui/modal.h"
 #include "host/gui/tool.h"
 #include "pages/lamp_waveform/add_del_pulse.h"
+#include "pages/lamp_waveform/pulse_grid.h"
 #include "pages/lamp_waveform/rules/pulse_edit.h"
 #include "pages/lamp_waveform/rules/pulse_list.h"
-#include "pages/lamp_waveform/rules/pulse_table.h"
 #include "pages/lamp_waveform/rules/selection.h"
 #include "pages/lamp_waveform/rules/waveform_picture.h"
 #include "ui_lamp_waveform_pulses_page.h"
 
 namespace VeskSystemDefinition {
-
-namespace {
-
-using GUI::CellKind;
-using GUI::GridColumn;
-
-enum Column { kSegment, kPulse, kOperation };
-
-QStringList TextsOf(const PulseInfo& pulse) {
-  return {QString::fromStdString(pulse.m_strCWSeg),
-          QString::fromStdString(lamp_waveform::PulseText(pulse)),
-          QString::fromStdString(lamp_waveform::OperationText(pulse))};
-}
-
-void ShowRow(GUI::CDynamicDataGrid& grid, int row, const QStringList& texts, const QString& tip) {
-  for (int column = kSegment; column <= kOperation; ++column) {
-    if (grid.CellText(row, column) != texts[column]) grid.SetCellText(row, column, texts[column]);
-  }
-  for (const int column : {kSegment, kPulse}) grid.SetCellToolTip(row, column, tip);
-}
-
-}  // namespace
 
 CLampWaveFormPulsesPage::CLampWaveFormPulsesPage(std::string toolName, QWidget* parent)
     : QWidget(parent),
@@ -48,19 +24,11 @@ CLampWaveFormPulsesPage::CLampWaveFormPulsesPage(std::string toolName, QWidget* 
   ui_->setupUi(this);
   ui_->split->setStretchFactor(0, 1);
   ui_->split->setStretchFactor(1, 1);
-  SetUpGrid();
+  grid_ = std::make_unique<lamp_waveform::PulseGrid>(*ui_->grid);
   Connect();
-  ShowNoSegments();
 }
 
 CLampWaveFormPulsesPage::~CLampWaveFormPulsesPage() = default;
-
-void CLampWaveFormPulsesPage::SetUpGrid() {
-  ui_->grid->OfferRowOperations({});
-  ui_->grid->SetRowHeadingsVisible(false);
-  QHeaderView& rows = *ui_->grid->verticalHeader();
-  rows.setMinimumSectionSize(rows.defaultSectionSize());
-}
 
 void CLampWaveFormPulsesPage::Connect() {
   using lamp_waveform::WaveformView;
@@ -68,84 +36,32 @@ void CLampWaveFormPulsesPage::Connect() {
           [this](int row) { OpenPulse(static_cast<std::size_t>(row)); });
   connect(ui_->grid, &GUI::CDynamicDataGrid::rowSelectionChanged, this,
           &CLampWaveFormPulsesPage::FollowSelection);
-  connect(ui_->view, &WaveformView::rowClicked, this, &CLampWaveFormPulsesPage::SelectRow);
+  connect(ui_->view, &WaveformView::rowClicked, this,
+          [this](std::size_t row) { grid_->SelectRow(row); });
   connect(ui_->view, &WaveformView::rowActivated, this, [this](std::size_t row) {
-    SelectRow(row);
+    grid_->SelectRow(row);
     OpenPulse(row);
   });
 }
 
 void CLampWaveFormPulsesPage::Refresh() {
   if (!data_) return;
-  FollowWheel();
-  ShowPulses();
-  ShowPicture();
-}
-
-void CLampWaveFormPulsesPage::FollowWheel() {
   if (lamp_waveform::FollowWheel(*data_)) MarkModified();
+  ShowPulses();
 }
 
 void CLampWaveFormPulsesPage::ShowPulses() {
-  const auto pulses = lamp_waveform::ShownPulses(*data_);
-  if (pulses.empty()) return ShowNoSegments();
-  GUI::CDynamicDataGrid& grid = *ui_->grid;
-  if (!std::exchange(showsPulses_, true)) {
-    const GridColumn columns[]{
-        {.heading = lamp_waveform::kPulseHeaders[kSegment]},
-        {.heading = lamp_waveform::kPulseHeaders[kPulse]},
-        {.heading = lamp_waveform::kPulseHeaders[kOperation], .kind = CellKind::kPushButton}};
-    grid.SetColumns(columns);
-    grid.horizontalHeader()->show();
-  }
   const PCGroup* const group = lamp_waveform::SelectedGroup(*data_);
-  const double rate = group ? lamp_waveform::ReferenceRate(*group) : -1.0;
-  // Rows that stay keep the selection and the place that the person scrolled to.
-  if (grid.RowCount() > static_cast<int>(pulses.size())) grid.ClearRows();
-  for (std::size_t i = 0; i < pulses.size(); ++i) {
-    const int row = static_cast<int>(i);
-    const QStringList texts = TextsOf(pulses[i]);
-    if (row == grid.RowCount()) grid.InsertRow(texts, -1, 0, {}, true);
-    ShowRow(grid, row, texts,
-            QString::fromStdString(lamp_waveform::PulseDescription(pulses[i], rate)));
-  }
-  const auto fit = lamp_waveform::FitOf(pulses.size());
-  grid.verticalHeader()->setSectionResizeMode(fit.expandRows ? QHeaderView::Stretch
-                                                             : QHeaderView::Fixed);
-  grid.setVerticalScrollBarPolicy(fit.showScrollBar ? Qt::ScrollBarAlwaysOn
-                                                    : Qt::ScrollBarAsNeeded);
-}
-
-/// One cell that fills the table.
-void CLampWaveFormPulsesPage::ShowNoSegments() {
-  GUI::CDynamicDataGrid& grid = *ui_->grid;
-  showsPulses_ = false;
-  const GridColumn only[]{{}};
-  grid.SetColumns(only);
-  grid.horizontalHeader()->hide();
-  grid.InsertRow({QString::fromLatin1(lamp_waveform::kNoSegmentsText)}, -1, 0, {}, true);
-  grid.verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  grid.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-}
-
-void CLampWaveFormPulsesPage::ShowPicture() {
+  const double rate = group ? lamp_waveform::ReferenceRate(*group) : 0.0;
+  grid_->Show(lamp_waveform::ShownPulses(*data_), rate);
   ui_->view->SetPicture(lamp_waveform::MakePicture(*data_));
   FollowSelection();
 }
 
-void CLampWaveFormPulsesPage::SelectRow(std::size_t row) {
-  if (showsPulses_) ui_->grid->SelectRows(static_cast<int>(row), static_cast<int>(row));
-}
-
-void CLampWaveFormPulsesPage::FollowSelection() {
-  const auto blocks = ui_->grid->SelectedRowBlocks();
-  std::optional<std::size_t> row;
-  if (showsPulses_ && !blocks.empty()) row = static_cast<std::size_t>(blocks.front().first);
-  ui_->view->SetSelectedRow(row);
-}
+void CLampWaveFormPulsesPage::FollowSelection() { ui_->view->SetSelectedRow(grid_->SelectedRow()); }
 
 void CLampWaveFormPulsesPage::OpenPulse(std::size_t row) {
-  if (!data_ || !showsPulses_) return;
+  if (!data_ || !grid_->ShowsPulses()) return;
   Refresh();
   const PCGroup* const group = lamp_waveform::SelectedGroup(*data_);
   const auto pulses = lamp_waveform::ShownPulses(*data_);
@@ -203,7 +119,6 @@ void CLampWaveFormPulsesPage::Store(std::size_t row, const PulseInfo& pulse) {
   stored = pulse;
   MarkModified();
   ShowPulses();
-  ShowPicture();
 }
 
 PulseInfo* CLampWaveFormPulsesPage::PulseAt(std::size_t row) const {

@@ -14,6 +14,9 @@ class PulseInfo;
 namespace Ui {
 class LampWaveFormPulsesPage;
 }
+namespace lamp_waveform {
+class PulseGrid;
+}
 
 namespace VeskSystemDefinition {
 
@@ -33,14 +36,8 @@ class CLampWaveFormPulsesPage : public QWidget, public IEmbeddedPage {
   void Refresh() override;
 
  private:
-  void SetUpGrid();
   void Connect();
-
-  void FollowWheel();
   void ShowPulses();
-  void ShowNoSegments();
-  void ShowPicture();
-  void SelectRow(std::size_t row);
   void FollowSelection();
 
   void OpenPulse(std::size_t row);
@@ -52,9 +49,9 @@ class CLampWaveFormPulsesPage : public QWidget, public IEmbeddedPage {
   void MarkModified() const;
 
   std::unique_ptr<Ui::LampWaveFormPulsesPage> ui_;
+  std::unique_ptr<lamp_waveform::PulseGrid> grid_;
   std::string toolName_;
   GUIInputsData* data_ = nullptr;
-  bool showsPulses_ = false;  ///< rather than the message of the empty table
 };
 
 }  // namespace VeskSystemDefinition

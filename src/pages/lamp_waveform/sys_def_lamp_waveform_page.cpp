@@ -97,6 +97,10 @@ void SysDefLampWaveformPage::CreateControls(QWidget* window) {
 
 void SysDefLampWaveformPage::MakeSheet() {
   sheet_ = ui_->sheet;
+  // What stands above it keeps its place while it is hidden.
+  QSizePolicy size = sheet_->sizePolicy();
+  size.setRetainSizeWhenHidden(true);
+  sheet_->setSizePolicy(size);
   sheet_->AddPage(new CLampWaveFormPulsesPage(ToolName()), QStringLiteral("Pulses"));
   compensation_ = new CAntiFlatterCompensationPage(ToolName());
   sheet_->AddPage(compensation_, QString::fromLatin1(
@@ -124,7 +128,7 @@ void SysDefLampWaveformPage::ConnectControls() {
   QObject::connect(ui_->maker, &QComboBox::currentIndexChanged, window,
                    [this] { StoreAndRefresh(); });
   QObject::connect(ui_->uart, &QCheckBox::clicked, window, [this] { StoreAndRefresh(); });
-  GUI::WhenLeft(*ui_->waveformIndex, [this] { StoreAndRefresh(); });
+  GUI::WhenLeftForAnother(*ui_->waveformIndex, [this] { StoreAndRefresh(); });
   const auto onClick = [window](const GUI::ImageButton* button, auto run) {
     QObject::connect(button, &QAbstractButton::clicked, window, run);
   };
@@ -132,6 +136,12 @@ void SysDefLampWaveformPage::ConnectControls() {
   onClick(ui_->deleteWaveform, [this] { DeleteWaveform(); });
   onClick(ui_->importAttributes, [this] { Refresh(); });
   onClick(ui_->exportAttributes, [this] { Refresh(); });
+}
+
+void SysDefLampWaveformPage::TakeForeign(const GUIInputsData& foreign) {
+  if (!data_ || foreign.ColorWheel == data_->ColorWheel) return;
+  data_->ColorWheel = foreign.ColorWheel;
+  Refresh();
 }
 
 int SysDefLampWaveformPage::UpdateData(int save) {

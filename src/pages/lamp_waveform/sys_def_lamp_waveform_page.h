@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "host/gui/tool_property_page.h"
 #include "host/project/finding.h"
@@ -32,6 +33,10 @@ class SysDefLampWaveformPage : public Framework::ToolPropertyPage {
 
   /// The object to edit, also for the sub-pages; it stays the wrapper's.
   void SetData(GUIInputsData* data);
+  /// The color wheel is edited on its own page. One that changed there is taken and the pulses
+  /// follow it.
+  [[nodiscard]] static std::vector<std::string> ForeignFragments() { return {"ColorWheel"}; }
+  void TakeForeign(const GUIInputsData& foreign);
   /// Save stores the ballast settings; all else is in the data at once.
   int UpdateData(int save) override;
 

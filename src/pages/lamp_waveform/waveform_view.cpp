@@ -20,6 +20,7 @@ namespace lamp_waveform {
 namespace {
 
 constexpr double kGap = 4.0;
+constexpr double kLine = 1.5;
 constexpr double kTickRoom = 90.0;  ///< pixels that a time tick takes at least
 constexpr double kGainTick = 0.5;
 constexpr double kMostGainTicks = 6.0;
@@ -81,42 +82,43 @@ const DrawnPulse* WaveformView::PulseOf(std::size_t row) const {
 std::optional<QPointF> WaveformView::SegmentPlace(std::size_t row) const {
   const StripPart* part = PartOf(row);
   if (!part) return std::nullopt;
-  return QPointF(XOf((part->startUs + part->endUs) / 2), Strip().center().y());
+  return QPointF(XOf((part->startUs + part->endUs) / 2), strip_.center().y());
 }
 
 std::optional<QPointF> WaveformView::PulsePlace(std::size_t row) const {
   const DrawnPulse* pulse = PulseOf(row);
   if (!pulse) return std::nullopt;
-  return QPointF(XOf((pulse->StartUs() + pulse->EndUs()) / 2), PlotArea().center().y());
+  return QPointF(XOf((pulse->StartUs() + pulse->EndUs()) / 2), plot_.center().y());
 }
 
-QRectF WaveformView::PlotArea() const {
+void WaveformView::Arrange() {
   const QFontMetricsF metrics(font());
   const double line = metrics.height();
   const double numbers = metrics.horizontalAdvance(QStringLiteral("-0.0")) + 2 * kGap;
-  return QRectF(rect()).adjusted(numbers, 1.5 * line + 2 * kGap, -line - kGap,
-                                 -3 * line - 6 * kGap);
+  plot_ =
+      QRectF(rect()).adjusted(numbers, 1.5 * line + 2 * kGap, -line - kGap, -3 * line - 6 * kGap);
+  strip_ = {plot_.left(), plot_.bottom() + kGap, plot_.width(), line + kGap};
+  update();
 }
 
-QRectF WaveformView::Strip() const {
-  const QRectF plot = PlotArea();
-  return {plot.left(), plot.bottom() + kGap, plot.width(), QFontMetricsF(font()).height() + kGap};
+void WaveformView::resizeEvent(QResizeEvent*) { Arrange(); }
+
+void WaveformView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Arrange();
 }
 
 double WaveformView::XOf(double us) const {
-  const QRectF plot = PlotArea();
-  return plot.left() + plot.width() * (us - window_.From()) / window_.Length();
+  return plot_.left() + plot_.width() * (us - window_.From()) / window_.Length();
 }
 
 double WaveformView::YOf(double gain) const {
-  const QRectF plot = PlotArea();
   const double share = (gain - picture_.lowGain) / (picture_.highGain - picture_.lowGain);
-  return plot.bottom() - plot.height() * share;
+  return plot_.bottom() - plot_.height() * share;
 }
 
 double WaveformView::TimeAt(double x) const {
-  const QRectF plot = PlotArea();
-  return window_.From() + window_.Length() * (x - plot.left()) / plot.width();
+  return window_.From() + window_.Length() * (x - plot_.left()) / plot_.width();
 }
 
 bool WaveformView::IsShown(double fromUs, double toUs) const {
@@ -124,14 +126,13 @@ bool WaveformView::IsShown(double fromUs, double toUs) const {
 }
 
 std::optional<std::size_t> WaveformView::RowAtPlace(const QPointF& place) const {
-  const QRectF plot = PlotArea();
-  if (picture_.IsEmpty() || place.x() < plot.left() || place.x() > plot.right()) {
+  if (picture_.IsEmpty() || place.x() < plot_.left() || place.x() > plot_.right()) {
     return std::nullopt;
   }
   const double us = TimeAt(place.x());
-  if (Strip().contains(place)) return SegmentRowAt(picture_, us);
-  if (!plot.contains(place)) return std::nullopt;
-  return RowAt(picture_, us, kReach * window_.Length() / plot.width());
+  if (strip_.contains(place)) return SegmentRowAt(picture_, us);
+  if (!plot_.contains(place)) return std::nullopt;
+  return RowAt(picture_, us, kReach * window_.Length() / plot_.width());
 }
 
 // Drawing.
@@ -145,9 +146,9 @@ void WaveformView::paintEvent(QPaintEvent*) {
     DrawAxes(painter);
     DrawTimeAxis(painter);
     painter.save();
-    painter.setClipRect(PlotArea().adjusted(0, -1, 0, 1));
-    for (const DrawnPulse& pulse : picture_.pulses) DrawPulse(painter, pulse);
+    painter.setClipRect(plot_.adjusted(0, -1, 0, 1));
     DrawCurrent(painter);
+    for (const DrawnPulse& pulse : picture_.pulses) DrawPulse(painter, pulse);
     painter.restore();
   }
   DrawCaption(painter);
@@ -156,17 +157,15 @@ void WaveformView::paintEvent(QPaintEvent*) {
 
 /// The segments' colors, faint behind the current and full in the strip.
 void WaveformView::DrawSegments(QPainter& painter) const {
-  const QRectF plot = PlotArea();
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setClipRect(plot.united(Strip()).adjusted(0, 0, 1, 1));
+  painter.setClipRect(plot_.united(strip_).adjusted(0, 0, 1, 1));
   for (const StripPart& part : picture_.strip) {
     if (IsShown(part.startUs, part.endUs)) DrawStripPart(painter, part);
   }
   if (const StripPart* part = selected_ ? PartOf(*selected_) : nullptr) {
-    const QRectF strip = Strip();
-    const QRectF column(XOf(part->startUs), plot.top(), XOf(part->endUs) - XOf(part->startUs),
-                        strip.bottom() - plot.top());
+    const QRectF column(XOf(part->startUs), plot_.top(), XOf(part->endUs) - XOf(part->startUs),
+                        strip_.bottom() - plot_.top());
     painter.setBrush(Faint(palette().color(QPalette::Highlight), 40));
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
     painter.drawRect(column.adjusted(1, 1, -1, -1));
@@ -182,12 +181,12 @@ QColor WaveformView::FillOf(const StripPart& part) const {
 }
 
 void WaveformView::DrawStripPart(QPainter& painter, const StripPart& part) const {
-  const QRectF plot = PlotArea(), strip = Strip();
   const double left = XOf(part.startUs), width = XOf(part.endUs) - left;
   const QColor fill = FillOf(part);
-  const QRectF cell(left, strip.top(), width, strip.height());
-  painter.fillRect(QRectF(left, plot.top(), width, plot.height()),
-                   Faint(fill, part.neighbour ? 60 : 26));
+  const QRectF cell(left, strip_.top(), width, strip_.height());
+  // Mixed by hand: a fill that lets the ground through takes many times as long.
+  painter.fillRect(QRectF(left, plot_.top(), width, plot_.height()),
+                   Mixed(palette().color(QPalette::Base), fill, part.neighbour ? 0.24 : 0.1));
   painter.fillRect(cell, fill);
   if (part.neighbour) painter.fillRect(cell, QBrush(QColor(60, 60, 60), Qt::Dense6Pattern));
   const QString name = QString::fromStdString(part.name);
@@ -198,70 +197,76 @@ void WaveformView::DrawStripPart(QPainter& painter, const StripPart& part) const
   }
   if (!named) return;
   painter.setPen(GUI::InkOnWheelColor(fill));
-  painter.drawText(cell.intersected(strip), Qt::AlignCenter, name);
+  painter.drawText(cell.intersected(strip_), Qt::AlignCenter, name);
 }
 
 void WaveformView::DrawAxes(QPainter& painter) const {
   const GUI::ChartTheme theme = GUI::ChartTheme::Of(palette());
-  const QRectF plot = PlotArea();
   const double line = QFontMetricsF(font()).height();
   const double step =
       kGainTick * std::ceil((picture_.highGain - picture_.lowGain) / kGainTick / kMostGainTicks);
   for (double gain = picture_.lowGain; gain <= picture_.highGain; gain += step) {
     const double y = YOf(gain);
     painter.setPen(QPen(theme.grid, 1));
-    painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
+    painter.drawLine(QPointF(plot_.left(), y), QPointF(plot_.right(), y));
     painter.setPen(theme.ink);
-    painter.drawText(QRectF(0, y - line / 2, plot.left() - kGap, line),
-                     Qt::AlignRight | Qt::AlignVCenter, QString::number(gain, 'f', 1));
+    painter.drawText(QRectF(0, y - line / 2, plot_.left() - kGap, line),
+                     Qt::AlignRight | Qt::AlignVCenter, QString::number(gain, 'g', 4));
   }
   painter.setPen(QPen(theme.ink, 1, Qt::DotLine));
-  painter.drawLine(QPointF(plot.left(), YOf(1)), QPointF(plot.right(), YOf(1)));
+  painter.drawLine(QPointF(plot_.left(), YOf(1)), QPointF(plot_.right(), YOf(1)));
 }
 
 void WaveformView::DrawTimeAxis(QPainter& painter) const {
-  const QRectF plot = PlotArea(), strip = Strip();
   const double line = QFontMetricsF(font()).height();
   painter.setPen(palette().color(QPalette::Text));
-  for (const double tick : window_.Ticks(std::max(1, static_cast<int>(plot.width() / kTickRoom)))) {
+  for (const double tick :
+       window_.Ticks(std::max(1, static_cast<int>(plot_.width() / kTickRoom)))) {
     const double x = XOf(tick);
-    painter.drawLine(QPointF(x, strip.bottom()), QPointF(x, strip.bottom() + kGap));
-    painter.drawText(QRectF(x - kTickRoom / 2, strip.bottom() + kGap, kTickRoom, line),
+    painter.drawLine(QPointF(x, strip_.bottom()), QPointF(x, strip_.bottom() + kGap));
+    painter.drawText(QRectF(x - kTickRoom / 2, strip_.bottom() + kGap, kTickRoom, line),
                      Qt::AlignCenter, QString::number(tick, 'g', 8));
   }
-  painter.drawText(QRectF(plot.left(), strip.bottom() + kGap + line, plot.width(), line),
+  painter.drawText(QRectF(plot_.left(), strip_.bottom() + kGap + line, plot_.width(), line),
                    Qt::AlignCenter, tr("microseconds"));
 }
 
 void WaveformView::DrawPulse(QPainter& painter, const DrawnPulse& pulse) const {
   if (!IsShown(pulse.StartUs(), pulse.EndUs())) return;
   const GUI::ChartTheme theme = GUI::ChartTheme::Of(palette());
+  const bool isSelected = selected_ == pulse.row;
+  QColor color = theme.SeriesColor(pulse.dark ? 1 : 0);
+  if (isSelected) color = palette().color(QPalette::Highlight);
   QPainterPath shape(QPointF(XOf(pulse.StartUs()), YOf(1)));
   for (const auto& [us, gain] : pulse.points) shape.lineTo(XOf(us), YOf(gain));
   shape.lineTo(XOf(pulse.EndUs()), YOf(1));
-  const bool isSelected = selected_ == pulse.row;
-  const QColor color = isSelected   ? palette().color(QPalette::Highlight)
-                       : pulse.dark ? theme.SeriesColor(1)
-                                    : theme.SeriesColor(0);
   painter.fillPath(shape, Faint(color, isSelected ? 150 : 90));
   if (pulse.dark) painter.fillPath(shape, QBrush(color, Qt::BDiagPattern));
-  if (isSelected) painter.strokePath(shape, QPen(color, 4));
+  painter.strokePath(shape, QPen(color, isSelected ? 3 : kLine));
+  if (pulse.dark) DrawMark(painter, shape.boundingRect());
+}
+
+/// Names a dark pulse, above the current where it points down, if that has room.
+void WaveformView::DrawMark(QPainter& painter, const QRectF& pulse) const {
   const QFontMetricsF metrics(font());
   const QString mark = tr("DP");
-  const QRectF box = shape.boundingRect();
-  if (!pulse.dark || metrics.horizontalAdvance(mark) > box.width() + 8) return;
-  painter.setPen(theme.ink);
-  // A dark pulse points down, so there is room above it.
-  painter.drawText(QRectF(box.center().x() - 20, YOf(1) - metrics.height(), 40, metrics.height()),
+  const double width = metrics.horizontalAdvance(mark);
+  if (width > pulse.width() + 8) return;
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(QRectF(pulse.center().x() - width, YOf(1) - metrics.height() - 1, 2 * width,
+                          metrics.height()),
                    Qt::AlignCenter, mark);
 }
 
+/// The current between the pulses, which draw themselves.
 void WaveformView::DrawCurrent(QPainter& painter) const {
-  QPolygonF line;
-  line.reserve(static_cast<qsizetype>(picture_.current.size()));
-  for (const auto& [us, gain] : picture_.current) line << QPointF(XOf(us), YOf(gain));
-  painter.setPen(QPen(palette().color(QPalette::Text), 1.6));
-  painter.drawPolyline(line);
+  painter.setPen(QPen(palette().color(QPalette::Text), kLine));
+  for (std::size_t i = 1; i < picture_.current.size(); ++i) {
+    const auto& [fromUs, from] = picture_.current[i - 1];
+    const auto& [toUs, to] = picture_.current[i];
+    if (from != 1 || to != 1 || !IsShown(fromUs, toUs)) continue;
+    painter.drawLine(QPointF(XOf(fromUs), YOf(1)), QPointF(XOf(toUs), YOf(1)));
+  }
 }
 
 void WaveformView::DrawCaption(QPainter& painter) const {
@@ -307,7 +312,7 @@ void WaveformView::mouseMoveEvent(QMouseEvent* event) {
   const double moved = event->position().x() - *gripX_;
   if (!dragged_ && std::abs(moved) < QApplication::startDragDistance()) return;
   dragged_ = true;
-  window_.Pan(-moved * window_.Length() / PlotArea().width());
+  window_.Pan(-moved * window_.Length() / plot_.width());
   gripX_ = event->position().x();
   update();
 }
@@ -333,7 +338,6 @@ void WaveformView::wheelEvent(QWheelEvent* event) {
 
 void WaveformView::keyPressEvent(QKeyEvent* event) {
   const bool pans = event->modifiers().testFlag(Qt::ControlModifier);
-  const double middle = (window_.From() + window_.To()) / 2;
   switch (event->key()) {
     case Qt::Key_Left:
       pans ? window_.Pan(-kPanShare * window_.Length()) : Step(-1);
@@ -347,10 +351,10 @@ void WaveformView::keyPressEvent(QKeyEvent* event) {
       break;
     case Qt::Key_Plus:
     case Qt::Key_Equal:
-      window_.Zoom(middle, kZoomStep);
+      window_.Zoom(ZoomPlace(), kZoomStep);
       break;
     case Qt::Key_Minus:
-      window_.Zoom(middle, 1 / kZoomStep);
+      window_.Zoom(ZoomPlace(), 1 / kZoomStep);
       break;
     case Qt::Key_Home:
       window_.ShowAll();
@@ -359,6 +363,13 @@ void WaveformView::keyPressEvent(QKeyEvent* event) {
       return QWidget::keyPressEvent(event);
   }
   update();
+}
+
+/// The keyboard zooms about the selected segment where that is visible.
+double WaveformView::ZoomPlace() const {
+  const StripPart* part = selected_ ? PartOf(*selected_) : nullptr;
+  if (part && IsShown(part->startUs, part->endUs)) return (part->startUs + part->endUs) / 2;
+  return (window_.From() + window_.To()) / 2;
 }
 
 void WaveformView::Step(int by) {

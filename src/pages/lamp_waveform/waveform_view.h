@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QRectF>
 #include <QWidget>
 #include <optional>
 
@@ -48,12 +49,14 @@ class WaveformView : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  [[nodiscard]] QRectF PlotArea() const;
-  [[nodiscard]] QRectF Strip() const;
+  /// Finds the places of the plot and the strip for the widget's size and font.
+  void Arrange();
   [[nodiscard]] double XOf(double us) const;
   [[nodiscard]] double YOf(double gain) const;
   [[nodiscard]] double TimeAt(double x) const;
@@ -67,14 +70,18 @@ class WaveformView : public QWidget {
   void DrawSegments(QPainter& painter) const;
   void DrawStripPart(QPainter& painter, const StripPart& part) const;
   void DrawPulse(QPainter& painter, const DrawnPulse& pulse) const;
+  void DrawMark(QPainter& painter, const QRectF& pulse) const;
   void DrawCurrent(QPainter& painter) const;
   void DrawCaption(QPainter& painter) const;
   void DrawFrame(QPainter& painter) const;
   [[nodiscard]] QColor FillOf(const StripPart& part) const;
 
+  [[nodiscard]] double ZoomPlace() const;
   void Step(int by);
   void Describe();
 
+  QRectF plot_;
+  QRectF strip_;
   WaveformPicture picture_;
   TimeWindow window_;
   std::optional<std::size_t> selected_;

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
+
 #include "host/gui/message_box.h"
 #include "model/illuminators_page_data.h"
 #include "support/page_form.h"
@@ -94,6 +96,10 @@ struct Entry {
   double stored;
 };
 
+void PrintTo(const Entry& entry, std::ostream* out) {
+  *out << std::string(entry.text).substr(0, 20);
+}
+
 class IlluminatorTimes : public testing::TestWithParam<Entry> {};
 
 TEST_P(IlluminatorTimes, AreTakenWhenTheFieldIsLeftOrRefusedOnce) {
@@ -113,7 +119,9 @@ TEST_P(IlluminatorTimes, AreTakenWhenTheFieldIsLeftOrRefusedOnce) {
   EXPECT_EQ(messages[0].text, entry.prompt);
   EXPECT_EQ(messages[0].style, msgbox::kIconWarning);
   EXPECT_EQ(page.Time(1, "Disable Delay"), entry.text) << "stays to be mended";
-  EXPECT_TRUE(page.At(1, "Disable Delay").Widget().hasFocus());
+  const auto& box = dynamic_cast<QLineEdit&>(page.At(1, "Disable Delay").Widget());
+  EXPECT_TRUE(box.hasFocus());
+  EXPECT_EQ(box.selectedText(), box.text()) << "the next key begins a new text";
   EXPECT_FALSE(page.TakeChanged());
   EXPECT_FALSE(page.Apply());
 }
@@ -143,6 +151,17 @@ TEST(IlluminatorsPage, ARefusedTimeEndsTheExchange) {
   EXPECT_EQ(page.Now().characteristics[7].Row, 3) << "row 3 comes before row 4";
   EXPECT_THAT(page.Time(4, "Enable Delay"), HasSubstr("y"));
   EXPECT_TRUE(page.TakeChanged());
+}
+
+TEST(IlluminatorsPage, LeavingThePageTakesWhatIsBeingTyped) {
+  Page page;
+  auto& shown = page.project.Session().Pages().Open("IlluminatorsPage");
+  page.At(0, "Fall Margin").Type("1");
+  EXPECT_EQ(shown.OnKillActive(), 1);
+  EXPECT_EQ(page.Now().characteristics[0].FallMargin, 0.001) << "typed behind 0.00";
+  page.At(0, "Fall Margin").Type("x");
+  EXPECT_EQ(shown.OnKillActive(), 0);
+  EXPECT_THAT(page.interaction.TakeMessages(), SizeIs(1));
 }
 
 TEST(IlluminatorsPage, TakesNothingThatNobodyEdited) {

@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QTest>
 
+#include "automation/script_page.h"
 #include "host/gui/message_box.h"
 #include "host/project/ost_command_line_info.h"
 #include "pages/lamp_waveform/rules/selection.h"
@@ -222,6 +223,7 @@ TEST(LampWaveformPage, StoresTheBallastSettings) {
     page.Control(kIndex).SetText(refused);
     EXPECT_THAT(page.TakeTexts(), ElementsAre(HasSubstr("Please enter an integer"))) << refused;
     EXPECT_TRUE(page.Control(kIndex).Widget().hasFocus()) << refused;
+    EXPECT_EQ(page.Text(kIndex), refused);
     EXPECT_FALSE(page.Apply()) << refused;
     (void)page.TakeTexts();
     EXPECT_FALSE(page.TakeChanged()) << refused;
@@ -360,6 +362,21 @@ TEST(LampWaveformPage, AChangedWheelKeepsThePulsesOfItsSegments) {
   EXPECT_TRUE(page.Apply());
   EXPECT_THAT(page.Database(), HasSubstr("title=\"Old\" wheel=\"YR\" note=\"kept\""));
   EXPECT_THAT(page.Database(), HasSubstr("<ColorWheel number='0'><Segments>"));
+}
+
+TEST(LampWaveformPage, FollowsTheWheelThatItsOwnPageApplied) {
+  WaveformPage page;
+  auto& pages = page.project.Session().Pages();
+  page.Control(kIndex).SetText("77");
+  auto wheel = automation::OpenPage(pages, "ColorWheelPage");
+  wheel.GetTable("Segment Geometry").SetCell(1, 0, "White");
+  pages.Open("SysDefLampWaveformPage").OnSetActive();
+  EXPECT_EQ(page.Pulses().Cell(1, 0), "G00") << "not applied yet";
+  ASSERT_TRUE(pages.Apply("ColorWheelPage"));
+  pages.Open("SysDefLampWaveformPage").OnSetActive();
+  EXPECT_EQ(page.Pulses().Cell(0, 1), "Yes");
+  EXPECT_EQ(page.Pulses().Cell(1, 0), "W00");
+  EXPECT_EQ(page.Text(kIndex), "77") << "what was edited here stays";
 }
 
 TEST(LampWaveformPage, AWheelWithoutSegmentsShowsTheMessageOfTheEmptyTable) {

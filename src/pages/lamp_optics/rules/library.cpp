@@ -26,6 +26,21 @@ auto* RecordAt(Records& records, int index) {
   return used ? &records[static_cast<std::size_t>(index)] : nullptr;
 }
 
+template <class Records>
+int EntryOf(const Records& records, int place) {
+  if (!RecordAt(records, place)) return -1;
+  const auto isUsed = [](const auto& record) { return record.InUse(); };
+  return static_cast<int>(std::count_if(records.begin(), records.begin() + place, isUsed));
+}
+
+template <class Records>
+int PlaceOf(const Records& records, int entry) {
+  for (int place = 0; place < static_cast<int>(records.size()); ++place) {
+    if (RecordAt(records, place) && EntryOf(records, place) == entry) return place;
+  }
+  return -1;
+}
+
 template <class Library>
 bool Remove(Library& library, int& current) {
   if (!library.RemoveItem(current)) return false;
@@ -35,15 +50,15 @@ bool Remove(Library& library, int& current) {
 
 template <class Records>
 Renamed Rename(Records& records, int current, std::string_view typed, const char* kind) {
-  if (current < 0 || current >= static_cast<int>(records.size())) return {};
-  auto& record = records[static_cast<std::size_t>(current)];
-  const std::string_view name = CutName(typed);
-  if (record.Name == name) return {};
+  auto* record = RecordAt(records, current);
+  std::string name(CutName(typed));
+  if (!record || record->Name == name) return {};
   using Record = typename Records::value_type;
   if (std::ranges::find(records, name, &Record::Name) != records.end()) {
     return {false, std::string(kind) + ":\"" + std::string(typed) + "\" already exists"};
   }
-  record.Name = name;
+  if (DropUnstorable(name)) return {false, "The name has characters that cannot be stored"};
+  record->Name = name;
   return {true, std::nullopt};
 }
 
@@ -58,6 +73,11 @@ const SLampRecord* CurrentLamp(const LampData& data) {
 const SOpticsRecord* CurrentOptics(const OpticsData& data) {
   return RecordAt(data.Optics, data.CurrentOptics);
 }
+
+int CurrentEntry(const LampData& data) { return EntryOf(data.Lamps, data.CurrentLamp); }
+int CurrentEntry(const OpticsData& data) { return EntryOf(data.Optics, data.CurrentOptics); }
+int PlaceOfEntry(const LampData& data, int entry) { return PlaceOf(data.Lamps, entry); }
+int PlaceOfEntry(const OpticsData& data, int entry) { return PlaceOf(data.Optics, entry); }
 
 bool HasRoom(const LampData& data) { return CountInUse(data.Lamps) < LampData::kCapacity; }
 bool HasRoom(const OpticsData& data) { return CountInUse(data.Optics) < OpticsData::kCapacity; }

@@ -28,6 +28,13 @@ inline constexpr double kMaxContrast = 1000000.0;
 [[nodiscard]] const SLampRecord* CurrentLamp(const LampData& data);
 [[nodiscard]] const SOpticsRecord* CurrentOptics(const OpticsData& data);
 
+/// The list entry of the current record, and the place of the record that an entry stands for; -1
+/// for none.
+[[nodiscard]] int CurrentEntry(const LampData& data);
+[[nodiscard]] int CurrentEntry(const OpticsData& data);
+[[nodiscard]] int PlaceOfEntry(const LampData& data, int entry);
+[[nodiscard]] int PlaceOfEntry(const OpticsData& data, int entry);
+
 /// Whether there is room for one more.
 [[nodiscard]] bool HasRoom(const LampData& data);
 [[nodiscard]] bool HasRoom(const OpticsData& data);
@@ -46,7 +53,8 @@ struct Renamed {
   std::optional<std::string> refusal;  ///< another record has the name
 };
 /// Gives the current record a name, cut at kMaxNameBytes. Free records take part in the comparison,
-/// so an empty name is refused while there is one.
+/// so an empty name is refused while there is one, and so is one with characters that cannot be
+/// stored. Without a current record nothing happens.
 [[nodiscard]] Renamed RenameCurrent(LampData& data, std::string_view typed);
 [[nodiscard]] Renamed RenameCurrent(OpticsData& data, std::string_view typed);
 

@@ -50,4 +50,10 @@ std::vector<std::string> ReportLines(const LoadReport& report) {
   return lines;
 }
 
+std::string LoadText(const std::string& fileName, bool accepted, const LoadReport& report) {
+  std::string text = fileName + (accepted ? ": loaded" : ": not loaded");
+  for (const std::string& line : ReportLines(report)) text += "\n" + line;
+  return text;
+}
+
 }  // namespace lamp_optics

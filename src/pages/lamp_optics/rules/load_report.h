@@ -38,4 +38,8 @@ struct LoadReport {
 /// The report for people: a line with points, range and peak, a line an oddity.
 [[nodiscard]] std::vector<std::string> ReportLines(const LoadReport& report);
 
+/// The same below a line that names the file and says whether it was taken.
+[[nodiscard]] std::string LoadText(const std::string& fileName, bool accepted,
+                                   const LoadReport& report);
+
 }  // namespace lamp_optics

@@ -3,6 +3,7 @@
 #include "pages/lamp_optics/rules/spectra.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace lamp_optics {
 namespace {
@@ -69,6 +70,24 @@ Curve Product(const Curve& a, const Curve& b) {
     product.push_back({wavelength, left.At(wavelength) * right.At(wavelength)});
   }
   return product;
+}
+
+Curve Thinned(const Curve& curve, std::size_t most) {
+  if (curve.size() <= most) return curve;
+  const std::size_t inner = curve.size() - 2, stretches = (most - 2) / 2;
+  Curve thinned{curve.front()};
+  for (std::size_t i = 0; i < stretches; ++i) {
+    const auto at = [&](std::size_t stretch) {
+      return curve.begin() + static_cast<std::ptrdiff_t>(1 + inner * stretch / stretches);
+    };
+    auto [low, high] = std::minmax_element(
+        at(i), at(i + 1), [](const Point& a, const Point& b) { return a.value < b.value; });
+    if (high < low) std::swap(low, high);
+    thinned.push_back(*low);
+    if (high != low) thinned.push_back(*high);
+  }
+  thinned.push_back(curve.back());
+  return thinned;
 }
 
 }  // namespace lamp_optics

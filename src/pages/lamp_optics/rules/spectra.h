@@ -17,4 +17,8 @@ namespace lamp_optics {
 [[nodiscard]] spectral_curve::Curve Product(const spectral_curve::Curve& a,
                                             const spectral_curve::Curve& b);
 
+/// The curve with at most `most` (at least 4) of its points: from each of equal stretches the
+/// lowest and the highest, so that no peak is lost, and the curve's two ends.
+[[nodiscard]] spectral_curve::Curve Thinned(const spectral_curve::Curve& curve, std::size_t most);
+
 }  // namespace lamp_optics

@@ -27,7 +27,8 @@ double GainMinimum(double least) {
 std::optional<PulsePreview> MakePreview(const PulseValues& values) {
   TemporalResponse response;
   response.Load(values.leadingEdge, values.width, values.trailingEdge, values.amplitude / 100);
-  if (response.Count() == 0) return std::nullopt;
+  const bool isFinite = std::isfinite(values.Duration()) && std::isfinite(values.amplitude);
+  if (response.Count() == 0 || !isFinite) return std::nullopt;
   PulsePreview preview;
   for (std::size_t i = 0; i < response.Count(); ++i) {
     preview.points.emplace_back(response.Times()[i], response.Gains()[i]);

@@ -21,7 +21,8 @@ struct PulsePreview {
 };
 
 /// The chart of the values, its last point at gain 1 and the right edge; the ranges end at the next
-/// multiple of 50 microseconds and 0.5 gain. Nothing without a duration: the chart then stays.
+/// multiple of 50 microseconds and 0.5 gain. Nothing without a duration, nor for values that are
+/// not finite: the chart then stays.
 [[nodiscard]] std::optional<PulsePreview> MakePreview(const PulseValues& values);
 
 /// The note under the chart.

@@ -7,11 +7,13 @@
 #include "pages/lamp_waveform/rules/ascii_case.h"
 #include "pages/lamp_waveform/rules/selection.h"
 #include "platform/text/fill.h"
+#include "platform/xml/names.h"
 
 namespace lamp_waveform {
 namespace {
 
 constexpr const char* kDuplicate = "Duplicate Waveform Name";
+constexpr const char* kWrong = "Wrong Waveform Name";
 
 }  // namespace
 
@@ -23,8 +25,11 @@ std::optional<TitleRefusal> CheckNewTitle(std::string_view title,
                                                    {std::string(title)})};
   }
   if (EqualIgnoringCase(title, "(none)")) {
-    return TitleRefusal{"Wrong Waveform Name",
+    return TitleRefusal{kWrong,
                         "Cannot use \"(None)\" as waveform name. Please enter a different name."};
+  }
+  if (platform::xml::FirstForbidden(title) != std::string_view::npos) {
+    return TitleRefusal{kWrong, "The waveform name has a character that cannot be stored."};
   }
   return std::nullopt;
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <span>
 #include <unordered_map>
@@ -59,6 +60,13 @@ std::string RowText(const PulseInfo& pulse, double rate) {
          " + " + text(values.width) + " + " + text(values.trailingEdge) + " usecs";
 }
 
+/// Stored numbers need not be finite; what cannot be placed is not drawn.
+bool CanBeDrawn(const DrawnPulse& pulse) {
+  return std::ranges::all_of(pulse.points, [](const auto& point) {
+    return std::isfinite(point.first) && std::isfinite(point.second);
+  });
+}
+
 void FitRanges(const SeqTimeline& timeline, WaveformPicture& picture) {
   picture.startUs = std::min(timeline.StartUs(), picture.current.front().first);
   picture.endUs = std::max(timeline.EndUs(), picture.current.back().first);
@@ -77,7 +85,7 @@ WaveformPicture MakePicture(const GUIInputsData& data) {
   WaveformPicture picture;
   const PCGroup* const group = SelectedGroup(data);
   const SeqTimeline timeline = SelectedTimeline(data);
-  if (group == nullptr || timeline.Segments().empty()) {
+  if (group == nullptr || timeline.Segments().empty() || !std::isfinite(timeline.EndUs())) {
     picture.note = "The color wheel has no sequence to draw.";
     return picture;
   }
@@ -92,6 +100,7 @@ WaveformPicture MakePicture(const GUIInputsData& data) {
     picture.rowTexts.push_back(rate > 0 ? RowText(pulse, rate) : pulse.m_strCWSeg);
   }
   picture.pulses = DrawPulses(pulses, timeline, *group);
+  std::erase_if(picture.pulses, std::not_fn(CanBeDrawn));
   picture.current = LampCurrent(picture.pulses, timeline);
   FitRanges(timeline, picture);
   return picture;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "pages/lamp_optics/rules/model_curve.h"
 
 namespace {
@@ -34,6 +36,25 @@ TEST(Spectra, TheProductHasThePointsOfBothWithinBoth) {
   EXPECT_EQ(Product(optics, lamp).size(), product.size());
   EXPECT_TRUE(Product(lamp, {}).empty());
   EXPECT_TRUE(Product(lamp, {{700, 1}, {800, 1}}).empty());
+}
+
+TEST(Spectra, ThinningKeepsEndsAndExtremes) {
+  spectral_curve::Curve curve;
+  for (int i = 0; i < 10007; ++i) curve.push_back({400 + i * 0.01, i % 7 * 0.1});
+  curve[5000].value = 9;
+  curve[5001].value = -9;
+  for (const std::size_t most : {4u, 5u, 500u, 10006u}) {
+    const auto thinned = lamp_optics::Thinned(curve, most);
+    EXPECT_LE(thinned.size(), most);
+    EXPECT_GT(thinned.size(), most / 2);
+    EXPECT_EQ(thinned.front().wavelength, 400);
+    EXPECT_EQ(thinned.back().wavelength, curve.back().wavelength);
+    const auto [low, high] = std::ranges::minmax(thinned, {}, &spectral_curve::Point::value);
+    EXPECT_EQ(low.value, -9);
+    EXPECT_EQ(high.value, 9);
+    EXPECT_TRUE(std::ranges::is_sorted(thinned, {}, &spectral_curve::Point::wavelength));
+  }
+  EXPECT_EQ(lamp_optics::Thinned(curve, 10007).size(), 10007u);
 }
 
 double ModelAt(const OpticsModel& model, int nm) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include <utility>
 
 namespace {
@@ -27,6 +29,7 @@ TEST(PulsePreview, EndsAtTheNextStepAboveThePulse) {
     EXPECT_EQ(preview->points.back(), std::pair(xMaximum, 1.0));
   }
   EXPECT_FALSE(lamp_waveform::MakePreview({.amplitude = 50}));
+  EXPECT_FALSE(lamp_waveform::MakePreview({.amplitude = 50, .width = std::nan("")}));
   EXPECT_EQ(lamp_waveform::PreviewNote({140, 10.5, 20, 100}),
             "Note:\n      Pulses (0--110.5) will be aligned with the end of sequence segment (See "
             "TimingChart Page for detailed\n      view of waveform).");

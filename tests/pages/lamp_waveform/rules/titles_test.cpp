@@ -21,6 +21,7 @@ TEST(WaveformTitles, TheDialogRefusesDoubledAndReservedOnes) {
   for (const char* reserved : {"(none)", "(NONE)", "(None)"}) {
     EXPECT_EQ(CheckNewTitle(reserved, titles)->caption, "Wrong Waveform Name") << reserved;
   }
+  EXPECT_EQ(CheckNewTitle("a\x01", titles)->caption, "Wrong Waveform Name");
   EXPECT_FALSE(CheckNewTitle("None", titles));
   EXPECT_FALSE(CheckNewTitle(" Bright ", titles));
 }
