@@ -16,32 +16,6 @@ namespace {
 using boost::archive::archive_exception;
 using zel::archive::xml_archive_exception;
 
-TEST(ArchiveException, EachCodeHasItsText) {
-  const char* const texts[] = {
-      "uninitialized exception",    "unknown derived exception", "unregistered class",
-      "invalid signature",          "unsupported version",       "pointer conflict",
-      "incompatible native format", "array size too short",      "stream error",
-      "class name too long",        "unregistered void cast",    "programming error"};
-  int code = 0;
-  for (const char* text : texts) {
-    EXPECT_STREQ(archive_exception(static_cast<archive_exception::exception_code>(code++)).what(),
-                 text);
-  }
-  const char* const xmlTexts[] = {
-      "uninitialized exception",    "unknown derived exception", "can't convert data to text",
-      "can't convert text to data", "its own message",           "missing element",
-      "element mismatch",           "missing curnode",           "missing attribute",
-      "programming error"};
-  code = 0;
-  for (const char* text : xmlTexts) {
-    const xml_archive_exception fault(static_cast<xml_archive_exception::exception_code>(code++),
-                                      "its own message", "where");
-    EXPECT_STREQ(static_cast<const archive_exception&>(fault).what(), text);
-    EXPECT_EQ(static_cast<const archive_exception&>(fault).code(),
-              archive_exception::other_exception);
-  }
-}
-
 /// A library that is loaded while this lives.
 class Library {
  public:
@@ -82,6 +56,7 @@ TEST(ArchiveException, CrossesTheBorderOfALibrary) {
     std::rethrow_exception(kept);
   } catch (const archive_exception& fault) {
     EXPECT_STREQ(fault.what(), "from the library");
+    EXPECT_EQ(fault.code(), archive_exception::other_exception);
     EXPECT_NE(dynamic_cast<const xml_archive_exception*>(&fault), nullptr);
   }
 }
