@@ -253,8 +253,12 @@ TEST(ColorWheelPage, OffersTheFrameRatesOfTheProject) {
 }
 
 TEST(ColorWheelPage, WithoutSupportedRatesTheDefaultIsStoredWhenItIsARate) {
-  for (const auto& [rate, items, stored] :
-       {std::tuple{"48", QStringList{"48.00"}, 48}, {"90", {}, 60}}) {
+  const std::tuple<const char*, QStringList, double> rates[] = {{"48", {"48.00"}, 48},
+                                                                {"89.99", {"89.99"}, 89.99},
+                                                                {"90", {}, 60},
+                                                                {"0", {}, 60},
+                                                                {"-1", {}, 60}};
+  for (const auto& [rate, items, stored] : rates) {
     WheelPage page(
         Rgb(), std::string("<Key name=\"projectclass.seqrange.defaultnominalframerate\">") + rate +
                    "</Key>");
