@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QScopedValueRollback>
+#include <QTimer>
 #include <algorithm>
 
 #include "framework/tool_name.h"
@@ -108,6 +109,12 @@ int IlluminatorsPage::UpdateData(int save) {
   return 1;
 }
 
+int IlluminatorsPage::OnKillActive() {
+  // A click on another page leaves the field first.
+  if (justRefused_) return 0;
+  return UpdateData(1) && UpdateData(0) ? 1 : 0;
+}
+
 // Data to controls.
 
 void IlluminatorsPage::ShowIlluminators() {
@@ -151,6 +158,8 @@ void IlluminatorsPage::Exchange() {
   const int taken = Take();
   ShowIlluminators();
   ShowTimes(taken);
+  justRefused_ = taken < kRows;
+  if (justRefused_) QTimer::singleShot(0, rows_[0], [this] { justRefused_ = false; });
 }
 
 Findings IlluminatorsPage::CheckData(const IlluminatorsPageData& data,

@@ -223,6 +223,7 @@ TEST(LampWaveformPage, StoresTheBallastSettings) {
     page.Control(kIndex).SetText(refused);
     EXPECT_THAT(page.TakeTexts(), ElementsAre(HasSubstr("Please enter an integer"))) << refused;
     EXPECT_TRUE(page.Control(kIndex).Widget().hasFocus()) << refused;
+    EXPECT_EQ(page.Text(kIndex), refused);
     EXPECT_FALSE(page.Apply()) << refused;
     (void)page.TakeTexts();
     EXPECT_FALSE(page.TakeChanged()) << refused;
