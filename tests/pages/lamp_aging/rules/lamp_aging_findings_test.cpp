@@ -6,10 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
 
 #include "host/project/ost_project.h"
-#include "pages/lamp_aging/rules/bin_rules.h"
 #include "pages/lamp_aging/rules/curve.h"
 #include "pages/lamp_aging/rules/working_tables.h"
 
@@ -98,89 +96,6 @@ TEST_F(LampAgingFindings, TellWhatIsWrongWithTheGroups) {
                           "warning unknown-spin-factor", "warning repeated-group"));
   EXPECT_EQ(Check(data, project_)[2].text,
             "no feedback, spin factor 2: amplitude 9 of Bin#0 is outside 1.000 to 3.500");
-}
-
-// Presses the page's buttons at random, as the page does: what is shown is stored.
-class RandomEditor {
- public:
-  RandomEditor(unsigned seed, const OstProject& project)
-      : source_(seed), limits_(ReadLimits(project)) {
-    AppendSpinFactors(project, factors_);
-  }
-
-  void Edit() {
-    switch (Whole(0, 9)) {
-      case 0:
-        factor_ = factors_[static_cast<std::size_t>(Whole(0, 1))].value;
-        LoadTables(data, factor_, tables_);
-        break;
-      case 1:
-        ballastType_ = static_cast<std::uint32_t>(Whole(0, 1));
-        break;
-      case 2:
-      case 3:
-        DeleteBin(tables_.feedback, Row());
-        break;
-      default:
-        ballastType_ == kSendsFeedback ? AddOrChange() : ChangeOnly();
-    }
-    ShownTable(tables_, ballastType_);
-    changed += StoreTables(tables_, ballastType_, factor_, factors_, data) ? 1 : 0;
-  }
-
-  LampAgingPageData data;
-  int changed = 0;
-
- private:
-  void AddOrChange() {
-    if (tables_.feedback.empty()) return;
-    const std::size_t row = Row();
-    if (Whole(0, 1) == 0) {
-      static_cast<void>(
-          ChangeBin(tables_.feedback, row, Near(*BinAt(tables_.feedback, row)), limits_));
-      return;
-    }
-    const Bin proposal = ProposeBin(tables_.feedback, row, limits_);
-    static_cast<void>(
-        AddBin(tables_.feedback, Whole(0, 2) == 0 ? proposal : Near(proposal), limits_));
-  }
-
-  void ChangeOnly() {
-    if (tables_.noFeedback.empty()) return;
-    static_cast<void>(
-        ChangeOnlyBin(tables_.noFeedback, Near(*tables_.noFeedback.begin()), limits_));
-  }
-
-  Bin Near(const Bin& bin) {
-    return MakeBin(bin.m_lowerBallastVal + Whole(-3, 3), bin.m_upperBallastVal + Whole(-3, 9),
-                   bin.m_avgPulseAmplitude + Whole(-5, 5) / 10.0);
-  }
-  std::size_t Row() {
-    const int rows = static_cast<int>(tables_.feedback.size());
-    return static_cast<std::size_t>(Whole(0, std::max(rows - 1, 0)));
-  }
-  int Whole(int low, int high) { return std::uniform_int_distribution(low, high)(source_); }
-
-  std::mt19937 source_;
-  Limits limits_;
-  std::vector<SpinFactor> factors_;
-  WorkingTables tables_;
-  double factor_ = 2;
-  std::uint32_t ballastType_ = kNoFeedback;
-};
-
-TEST_F(LampAgingFindings, NeverRefuseWhatThePageHasBuilt) {
-  for (unsigned seed = 1; seed <= 50; ++seed) {
-    RandomEditor editor(seed, project_);
-    for (int edit = 0; edit < 400; ++edit) {
-      editor.Edit();
-      for (const Finding& finding : Check(editor.data, project_)) {
-        ASSERT_EQ(finding.severity, Severity::kWarning)
-            << finding.text << " (seed " << seed << ", edit " << edit << ")";
-      }
-    }
-    EXPECT_GT(editor.changed, 50) << "seed " << seed;
-  }
 }
 
 }  // namespace
