@@ -38,35 +38,35 @@ struct Page : test::PageForm<IlluminatorsPageData> {
   }
   automation::Control List(int row) { return At(row, "Illuminator"); }
   std::string Time(int row, const std::string& part) { return At(row, part).Text().toStdString(); }
-  QColor Color(int row, QPalette::ColorRole role) {
-    return List(row).Widget().palette().color(role);
+  const IllumCharacteristics& Stored(std::size_t type) {
+    data = Now();
+    return data.characteristics[type];
   }
+  IlluminatorsPageData data;
 };
-
-QStringList Entries(std::initializer_list<const char*> texts) {
-  QStringList list;
-  for (const char* text : texts) list << QString::fromLatin1(text);
-  return list;
-}
 
 TEST(IlluminatorsPage, OffersWhatIsAllowedAndInNoOtherRow) {
   Page page;
-  EXPECT_TRUE(page.List(4).Visible());
-  EXPECT_FALSE(page.List(5).Visible());
-  EXPECT_FALSE(page.At(7, "Fall Margin").Visible());
+  const QStringList both{"", "Cyan", "IR"};
   for (const int row : {3, 4}) {
-    EXPECT_EQ(page.List(row).Items(), Entries({"", "Cyan", "IR"}));
+    EXPECT_EQ(page.List(row).Items(), both);
     EXPECT_FALSE(page.At(row, "Enable Delay").Enabled());
   }
   page.List(3).Choose("Cyan");
   EXPECT_TRUE(page.TakeChanged());
-  EXPECT_EQ(page.List(3).Items(), Entries({"", "Cyan", "IR"}));
-  EXPECT_EQ(page.List(4).Items(), Entries({"", "IR"}));
+  EXPECT_EQ(page.List(3).Items(), both);
+  EXPECT_EQ(page.List(4).Items(), QStringList({"", "IR"}));
   EXPECT_TRUE(page.At(3, "Fall Margin").Enabled());
   EXPECT_EQ(page.Time(3, "Enable Delay"), "7.00");
-  EXPECT_EQ(page.Now().characteristics[4].Row, 3);
+  EXPECT_EQ(page.Stored(4).Row, 3);
   page.List(3).Choose("Cyan");
   EXPECT_FALSE(page.TakeChanged());
+}
+
+TEST(IlluminatorsPage, OffersARowWhatStandsInItThoughItIsNotAllowed) {
+  Page page(kCyanAndIR + std::string(R"(<Illuminator name="Yellow" row="3"/>)"));
+  EXPECT_EQ(page.List(3).Items(), QStringList({"", "Yellow", "Cyan", "IR"}));
+  EXPECT_EQ(page.List(4).Items(), QStringList({"", "Cyan", "IR"}));
 }
 
 TEST(IlluminatorsPage, AnIlluminatorThatLeavesItsRowKeepsItsTimes) {
@@ -74,67 +74,53 @@ TEST(IlluminatorsPage, AnIlluminatorThatLeavesItsRowKeepsItsTimes) {
   page.List(3).Choose("Cyan");
   page.At(3, "Fall Margin").SetText("2.5");
   page.List(3).Choose("");
-  IlluminatorsPageData data = page.Now();
-  EXPECT_EQ(data.characteristics[4].Row, -1);
+  EXPECT_EQ(page.Stored(4).Row, -1);
   EXPECT_FALSE(page.At(3, "Fall Margin").Enabled());
   EXPECT_EQ(page.Time(3, "Fall Margin"), "0.00");
   page.List(4).Choose("Cyan");
   EXPECT_EQ(page.Time(4, "Fall Margin"), "2.50");
-  data = page.Now();
-  EXPECT_EQ(data.characteristics[4].EnableDelay, 7.0004) << "never edited";
-  EXPECT_EQ(data.characteristics[4].Row, 4);
+  EXPECT_EQ(page.Stored(4).EnableDelay, 7.0004) << "never edited";
+  EXPECT_EQ(page.Stored(4).Row, 4);
   // From one illuminator to another in one step.
   page.List(4).Choose("IR");
   EXPECT_EQ(page.Time(4, "Fall Margin"), "0.00");
-  EXPECT_EQ(page.Now().characteristics[4].FallMargin, 2.5);
-  EXPECT_EQ(page.Now().characteristics[4].Row, -1);
+  EXPECT_EQ(page.Stored(4).FallMargin, 2.5);
+  EXPECT_EQ(page.Stored(4).Row, -1);
 }
 
-struct Entry {
-  const char* text;
-  const char* prompt;  ///< empty: taken
-  double stored;
-};
-
-void PrintTo(const Entry& entry, std::ostream* out) {
-  *out << std::string(entry.text).substr(0, 20);
-}
-
-class IlluminatorTimes : public testing::TestWithParam<Entry> {};
-
-TEST_P(IlluminatorTimes, AreTakenWhenTheFieldIsLeftOrRefusedOnce) {
-  const Entry& entry = GetParam();
-  Page page;
-  page.At(1, "Disable Delay").SetText("5");
-  EXPECT_TRUE(page.TakeChanged());
-  page.At(1, "Disable Delay").SetText(entry.text);
-  const auto messages = page.interaction.TakeMessages();
-  EXPECT_EQ(page.Now().characteristics[1].DisableDelay, entry.stored);
-  if (*entry.prompt == 0) {
-    EXPECT_THAT(messages, IsEmpty());
-    EXPECT_TRUE(page.Apply());
-    return;
+TEST(IlluminatorsPage, TimesAreTakenWhenTheFieldIsLeftOrRefusedOnce) {
+  const char* const number = "Please enter a number.";
+  const char* const range = "Please enter a number between 0 and 2000.";
+  const std::string tooLong = std::string(398, '0') + ".25";
+  const struct {
+    const char* text;
+    const char* prompt;  ///< null: taken
+    double stored;
+  } entries[] = {{"2000.0", nullptr, 2000}, {"0", nullptr, 0},   {"1e2", nullptr, 100},
+                 {"2000.01", range, 5},     {"-0.01", range, 5}, {"inf", number, 5},
+                 {"1,5", number, 5},        {"", number, 5},     {tooLong.c_str(), number, 5}};
+  for (const auto& [text, prompt, stored] : entries) {
+    SCOPED_TRACE(text);
+    Page page;
+    automation::Control box = page.At(1, "Disable Delay");
+    box.SetText("5");
+    EXPECT_TRUE(page.TakeChanged());
+    box.SetText(text);
+    const auto messages = page.interaction.TakeMessages();
+    EXPECT_EQ(page.Stored(1).DisableDelay, stored);
+    ASSERT_THAT(messages, SizeIs(prompt ? 1 : 0));
+    if (prompt) {
+      EXPECT_EQ(messages[0].text, prompt);
+      EXPECT_EQ(messages[0].style, msgbox::kIconWarning);
+      EXPECT_EQ(box.Text(), text) << "stays to be mended";
+      const auto& field = dynamic_cast<QLineEdit&>(box.Widget());
+      EXPECT_TRUE(field.hasFocus());
+      EXPECT_EQ(field.selectedText(), field.text()) << "the next key begins a new text";
+      EXPECT_FALSE(page.TakeChanged());
+    }
+    EXPECT_EQ(page.Apply(), !prompt);
   }
-  ASSERT_THAT(messages, SizeIs(1));
-  EXPECT_EQ(messages[0].text, entry.prompt);
-  EXPECT_EQ(messages[0].style, msgbox::kIconWarning);
-  EXPECT_EQ(page.Time(1, "Disable Delay"), entry.text) << "stays to be mended";
-  const auto& box = dynamic_cast<QLineEdit&>(page.At(1, "Disable Delay").Widget());
-  EXPECT_TRUE(box.hasFocus());
-  EXPECT_EQ(box.selectedText(), box.text()) << "the next key begins a new text";
-  EXPECT_FALSE(page.TakeChanged());
-  EXPECT_FALSE(page.Apply());
 }
-
-constexpr const char* kNumber = "Please enter a number.";
-constexpr const char* kRange = "Please enter a number between 0 and 2000.";
-const std::string kLong = std::string(398, '0') + ".25";
-INSTANTIATE_TEST_SUITE_P(All, IlluminatorTimes,
-                         testing::Values(Entry{"2000.0", "", 2000}, Entry{"0", "", 0},
-                                         Entry{"1e2", "", 100}, Entry{"2000.01", kRange, 5},
-                                         Entry{"-0.01", kRange, 5}, Entry{"inf", kNumber, 5},
-                                         Entry{"1,5", kNumber, 5}, Entry{"", kNumber, 5},
-                                         Entry{kLong.c_str(), kNumber, 5}));
 
 // What stands before the refused time is stored, the rest keeps its text until it is mended.
 TEST(IlluminatorsPage, ARefusedTimeEndsTheExchange) {
@@ -148,7 +134,7 @@ TEST(IlluminatorsPage, ARefusedTimeEndsTheExchange) {
   page.At(0, "Fall Margin").Widget().setFocus();
   EXPECT_THAT(page.interaction.TakeMessages(), SizeIs(1));
   page.List(3).Choose("IR");
-  EXPECT_EQ(page.Now().characteristics[7].Row, 3) << "row 3 comes before row 4";
+  EXPECT_EQ(page.Stored(7).Row, 3) << "row 3 comes before row 4";
   EXPECT_THAT(page.Time(4, "Enable Delay"), HasSubstr("y"));
   EXPECT_TRUE(page.TakeChanged());
 }
@@ -158,29 +144,23 @@ TEST(IlluminatorsPage, LeavingThePageTakesWhatIsBeingTyped) {
   auto& shown = page.project.Session().Pages().Open("IlluminatorsPage");
   page.At(0, "Fall Margin").Type("1");
   EXPECT_EQ(shown.OnKillActive(), 1);
-  EXPECT_EQ(page.Now().characteristics[0].FallMargin, 0.001) << "typed behind 0.00";
+  EXPECT_EQ(page.Stored(0).FallMargin, 0.001) << "typed behind 0.00";
   page.At(0, "Fall Margin").Type("x");
   EXPECT_EQ(shown.OnKillActive(), 0);
   EXPECT_THAT(page.interaction.TakeMessages(), SizeIs(1));
 }
 
-TEST(IlluminatorsPage, TakesNothingThatNobodyEdited) {
-  Page page;
+TEST(IlluminatorsPage, TakesNothingThatNobodyEditedAndMendsNothing) {
+  Page page(
+      R"(<Illuminator name="Red" enableDelayMicroseconds="12.3456"/>)"
+      R"(<Illuminator name="Cyan" allowed="1" row="3"/><Illuminator name="IR" allowed="1" row="3"/>)");
   const IlluminatorsPageData before = page.Now();
   EXPECT_EQ(page.Time(0, "Enable Delay"), "12.35");
+  EXPECT_EQ(page.List(3).Text(), "Cyan") << "the first of two";
   page.At(0, "Enable Delay").SetText("12.35");
   EXPECT_TRUE(page.Apply());
   EXPECT_FALSE(page.TakeChanged());
   EXPECT_EQ(page.Now(), before);
-}
-
-TEST(IlluminatorsPage, ApplyingMendsNothingInSilence) {
-  Page wrong(R"(<Illuminator name="Cyan" allowed="1" row="3"/>)"
-             R"(<Illuminator name="IR" allowed="1" row="3"/>)");
-  EXPECT_EQ(wrong.List(3).Text(), "Cyan");
-  EXPECT_TRUE(wrong.Apply());
-  EXPECT_FALSE(wrong.TakeChanged());
-  EXPECT_EQ(wrong.Now().characteristics[7].Row, 3);
 }
 
 TEST(IlluminatorsPage, TheDiagramMovesUpByTheHiddenRows) {
@@ -204,8 +184,7 @@ TEST(IlluminatorsPage, TheDiagramShowsTheRowThatHasTheFocus) {
   const auto words = [&page] { return page.Text("Timing Diagram"); };
   EXPECT_THAT(words(), HasSubstr("Red: the light is on 12.35 usecs after"));
   page.At(1, "Fall Margin").SetText("3.25");
-  EXPECT_THAT(words(), HasSubstr("Green: "));
-  EXPECT_THAT(words(), HasSubstr("dark 3.25 usecs later"));
+  EXPECT_THAT(words(), testing::AllOf(HasSubstr("Green: "), HasSubstr("dark 3.25 usecs later")));
   page.List(3).Choose("");
   EXPECT_THAT(words(), HasSubstr("No illuminator"));
   page.List(3).Choose("IR");
@@ -213,9 +192,9 @@ TEST(IlluminatorsPage, TheDiagramShowsTheRowThatHasTheFocus) {
 }
 
 TEST(IlluminatorsPage, TheDiagramSaysThatATimeCannotBeDrawn) {
-  Page wrong(R"(<Illuminator name="Red" enableDelayMicroseconds="-1"/>)");
-  EXPECT_THAT(wrong.Text("Timing Diagram"), HasSubstr("out of range"));
-  EXPECT_FALSE(wrong.Form().Widget().grab().isNull());
+  Page page(R"(<Illuminator name="Red" enableDelayMicroseconds="-1"/>)");
+  EXPECT_THAT(page.Text("Timing Diagram"), HasSubstr("out of range"));
+  EXPECT_FALSE(page.Form().Widget().grab().isNull());
 }
 
 TEST(IlluminatorsPage, HasToolTipsWhereRowsAreShown) {
@@ -236,30 +215,27 @@ TEST(IlluminatorsPage, HasToolTipsWhereRowsAreShown) {
 
 TEST(IlluminatorsPage, NamesAreShownInTheirColors) {
   Page page;
-  EXPECT_EQ(page.Color(1, QPalette::Base), QColor(128, 255, 128));
-  const QColor plain = page.Color(3, QPalette::Button);
+  const auto color = [&page](int row, QPalette::ColorRole role) {
+    return page.List(row).Widget().palette().color(role);
+  };
+  EXPECT_EQ(color(1, QPalette::Base), QColor(128, 255, 128));
+  const QColor plain = color(3, QPalette::Button);
   page.List(3).Choose("IR");
-  EXPECT_EQ(page.Color(3, QPalette::Button), QColor(208, 208, 208));
-  EXPECT_EQ(page.Color(3, QPalette::ButtonText), QColor(Qt::black));
+  EXPECT_EQ(color(3, QPalette::Button), QColor(208, 208, 208));
+  EXPECT_EQ(color(3, QPalette::ButtonText), QColor(Qt::black));
   page.List(3).Choose("");
-  EXPECT_EQ(page.Color(3, QPalette::Button), plain);
+  EXPECT_EQ(color(3, QPalette::Button), plain);
 }
 
 TEST(IlluminatorsPage, TheGlowmatchNoteIsForDevicesThatHaveIt) {
-  const auto shown = [](const char* kind, const char* feature) {
-    const auto key = [](const std::string& name, const std::string& text) {
-      return "<Key name=\"projectclass.device." + name + "\">" + text + "</Key>";
-    };
-    return Page("", key("kind", kind) + key("glowmatch", feature))
-        .Control("Glowmatch Note")
-        .Visible();
-  };
-  EXPECT_TRUE(shown("18", "1"));
-  EXPECT_TRUE(shown("21", "1"));
-  EXPECT_FALSE(shown("17", "1"));
-  EXPECT_FALSE(shown("22", "1"));
-  EXPECT_FALSE(shown("18", "0"));
-  EXPECT_FALSE(shown("18", "2"));
+  const std::tuple<std::string, std::string, bool> devices[] = {
+      {"18", "1", true},  {"21", "1", true},  {"17", "1", false},
+      {"22", "1", false}, {"18", "0", false}, {"18", "2", false}};
+  for (const auto& [kind, feature, shown] : devices) {
+    const std::string key = "<Key name=\"projectclass.device.";
+    Page page("", key + "kind\">" + kind + "</Key>" + key + "glowmatch\">" + feature + "</Key>");
+    EXPECT_EQ(page.Control("Glowmatch Note").Visible(), shown) << kind << " " << feature;
+  }
   EXPECT_FALSE(Page().Control("Glowmatch Note").Visible());
 }
 

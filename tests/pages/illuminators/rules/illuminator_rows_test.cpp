@@ -24,8 +24,6 @@ TEST(IllumTypes, HaveNamesBothWays) {
     EXPECT_EQ(IllumCharacteristics::GetIllumTypeForStr(name), type) << name;
     EXPECT_TRUE(ColorOf(type));
   }
-  EXPECT_EQ(IllumCharacteristics::GetStrForIllumType(5), "Magenta");
-  EXPECT_EQ(ColorOf(3), (Rgb{255, 255, 128}));
   for (const char* none : {"", "red", "Purple"}) {
     EXPECT_EQ(IllumCharacteristics::GetIllumTypeForStr(none), IllumCharacteristics::kNoIllum);
   }
@@ -37,13 +35,8 @@ TEST(IllumTypes, HaveNamesBothWays) {
 
 class IlluminatorRows : public testing::Test {
  protected:
-  IlluminatorRows() {
-    data_.allowed[kCyan] = data_.allowed[kIR] = true;
-    data_.characteristics[kCyan].EnableDelay = 1.2345;
-  }
+  IlluminatorRows() { data_.allowed[kCyan] = data_.allowed[kIR] = true; }
 
-  bool Choose(int row, const char* name) { return StoreRow(data_, row, name, {}); }
-  int RowOf(std::size_t type) const { return data_.characteristics[type].Row; }
   std::vector<std::string> Rules() const {
     std::vector<std::string> rules;
     for (const Finding& finding : Check(data_)) {
@@ -55,55 +48,6 @@ class IlluminatorRows : public testing::Test {
 
   IlluminatorsPageData data_;
 };
-
-TEST_F(IlluminatorRows, AreAsManyAsIlluminatorsMayBeOffered) {
-  EXPECT_EQ(ShownRows(data_), 5);
-  data_.allowed[0] = data_.allowed[2] = true;
-  EXPECT_EQ(ShownRows(data_), 5) << "red, green and blue are always there";
-  data_.allowed = {};
-  EXPECT_EQ(ShownRows(data_), 3);
-}
-
-TEST_F(IlluminatorRows, OfferWhatIsInNoOtherRow) {
-  EXPECT_THAT(DropDownContents(data_, 3), ElementsAre("", "Cyan", "IR"));
-  EXPECT_THAT(DropDownContents(data_, 4), ElementsAre("", "Cyan", "IR"));
-  EXPECT_TRUE(Choose(3, "Cyan"));
-  EXPECT_THAT(ShownNames(data_), ElementsAre("Cyan"));
-  EXPECT_THAT(DropDownContents(data_, 3), ElementsAre("", "Cyan", "IR"));
-  EXPECT_THAT(DropDownContents(data_, 4), ElementsAre("", "IR"));
-  data_.allowed[kCyan] = false;
-  EXPECT_THAT(DropDownContents(data_, 3), ElementsAre("", "Cyan", "IR")) << "its own stays";
-}
-
-TEST_F(IlluminatorRows, AChosenIlluminatorComesWithItsOwnTimes) {
-  EXPECT_TRUE(Choose(3, "IR"));
-  EXPECT_TRUE(StoreRow(data_, 3, "IR", {5.0, std::nullopt, 7.0}));
-  EXPECT_TRUE(Choose(3, "Cyan"));
-  EXPECT_EQ(RowOf(kCyan), 3);
-  EXPECT_EQ(RowOf(kIR), IllumCharacteristics::kNotShown);
-  EXPECT_EQ(ShownIn(data_, 3)->EnableDelay, 1.2345) << "not the times that were shown before";
-  EXPECT_TRUE(Choose(3, "IR"));
-  EXPECT_EQ(ShownIn(data_, 3)->EnableDelay, 5.0);
-  EXPECT_EQ(ShownIn(data_, 3)->FallMargin, 7.0);
-  EXPECT_TRUE(Choose(3, ""));
-  EXPECT_FALSE(RowEnabled(data_, 3));
-  EXPECT_EQ(ShownIn(data_, 3), nullptr);
-  EXPECT_EQ(data_.characteristics[kIR].EnableDelay, 5.0) << "kept while it is not shown";
-}
-
-TEST_F(IlluminatorRows, StoreOnlyWhatWasEdited) {
-  EXPECT_TRUE(Choose(4, "Cyan"));
-  const IlluminatorsPageData before = data_;
-  EXPECT_FALSE(Choose(4, "Cyan"));
-  EXPECT_FALSE(StoreRow(data_, 4, "Cyan", {1.2345, 0.0, std::nullopt})) << "the same values";
-  EXPECT_EQ(data_, before);
-  EXPECT_TRUE(StoreRow(data_, 4, "Cyan", {std::nullopt, 2000.0, std::nullopt}));
-  EXPECT_EQ(data_.characteristics[kCyan].DisableDelay, 2000.0);
-  EXPECT_EQ(data_.characteristics[kCyan].EnableDelay, 1.2345);
-  EXPECT_TRUE(StoreRow(data_, 1, "", {3.0, std::nullopt, std::nullopt}));
-  EXPECT_EQ(data_.characteristics[1].EnableDelay, 3.0);
-  EXPECT_EQ(RowOf(1), 1) << "a fixed row keeps its illuminator";
-}
 
 TEST_F(IlluminatorRows, AreCheckedForWhatThePageCannotShow) {
   EXPECT_THAT(Rules(), ElementsAre());
