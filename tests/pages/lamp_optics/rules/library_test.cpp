@@ -12,8 +12,6 @@
 namespace {
 
 using lamp_optics::ListEntries;
-using lamp_optics::RemoveCurrent;
-using lamp_optics::RenameCurrent;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -51,17 +49,6 @@ TEST(LampLibrary, ListsWhatIsInUse) {
   EXPECT_EQ(lamp_optics::CurrentLamp(lamps), nullptr);
 }
 
-TEST(LampLibrary, TakesFive) {
-  LampData lamps = Lamps({"1", "2", "3", "4"}).Lamp;
-  SLampRecord fifth = Lamp("5");
-  SLampRecord sixth = Lamp("6");
-  EXPECT_TRUE(lamp_optics::HasRoom(lamps));
-  EXPECT_TRUE(lamp_optics::AddLamp(lamps, fifth));
-  EXPECT_EQ(lamps.CurrentLamp, 4);
-  EXPECT_FALSE(lamp_optics::HasRoom(lamps));
-  EXPECT_FALSE(lamp_optics::AddLamp(lamps, sixth));
-}
-
 // A database that was written by hand may have free places anywhere.
 TEST(LampLibrary, TakesFiveWhereverThereIsRoom) {
   for (const std::vector<int>& used : {std::vector{0, 4}, {0, 2, 4}, {3, 4}, {1, 2, 3, 4}}) {
@@ -79,54 +66,6 @@ TEST(LampLibrary, TakesFiveWhereverThereIsRoom) {
     }
     EXPECT_EQ(names.size(), 5u);
   }
-}
-
-TEST(LampLibrary, RemovingMakesTheOneBeforeCurrent) {
-  LampData lamps = Lamps({"1", "2", "3"}).Lamp;
-  EXPECT_TRUE(RemoveCurrent(lamps));
-  EXPECT_EQ(lamps.CurrentLamp, 1);
-  lamps.CurrentLamp = 0;
-  EXPECT_TRUE(RemoveCurrent(lamps));
-  EXPECT_THAT(ListEntries(lamps), ElementsAre("2"));
-  EXPECT_EQ(lamps.CurrentLamp, -1);
-  EXPECT_FALSE(RemoveCurrent(lamps));
-}
-
-TEST(LampLibrary, RefusesTheNameOfAnotherRecord) {
-  LampData lamps = Lamps({"Xenon", "UHP"}).Lamp;
-  EXPECT_EQ(RenameCurrent(lamps, "Xenon").refusal, "Lamp:\"Xenon\" already exists");
-  EXPECT_EQ(lamps.Lamps[1].Name, "UHP");
-  EXPECT_FALSE(RenameCurrent(lamps, "UHP").changed);
-  EXPECT_EQ(RenameCurrent(lamps, "UHP").refusal, std::nullopt);
-  EXPECT_TRUE(RenameCurrent(lamps, "xenon").changed);
-  // Free records have the empty name.
-  EXPECT_EQ(RenameCurrent(lamps, "").refusal, "Lamp:\"\" already exists");
-  lamps.CurrentLamp = -1;
-  EXPECT_FALSE(RenameCurrent(lamps, "free").changed);
-
-  OpticsData optics;
-  SOpticsRecord record;
-  record.Response = {{400, 1}};
-  EXPECT_TRUE(lamp_optics::AddOptics(optics, record));
-  EXPECT_EQ(RenameCurrent(optics, "Lens").refusal, std::nullopt);
-  EXPECT_TRUE(lamp_optics::AddOptics(optics, record = SOpticsRecord{{{400, 1}}, "Dichroic"}));
-  EXPECT_EQ(RenameCurrent(optics, "Lens").refusal, "Optics:\"Lens\" already exists");
-}
-
-TEST(LampLibrary, CutsANameAfter255Characters) {
-  LampData lamps = Lamps({"Xenon"}).Lamp;
-  const std::string most = std::string(254, 'x') + "\xE2\x82\xAC";
-  EXPECT_TRUE(RenameCurrent(lamps, most).changed);
-  EXPECT_EQ(lamps.Lamps[0].Name, most);
-  EXPECT_FALSE(RenameCurrent(lamps, most + "\xC3\xBC").changed) << "cut, it is the same name";
-}
-
-TEST(LampLibrary, ARecyclingFileWithoutPointsEmptiesTheResponse) {
-  SLampRecord lamp = Lamp("Xenon");
-  EXPECT_TRUE(lamp_optics::TakeRecycling(lamp, {{400, 0.5}}));
-  EXPECT_EQ(lamp.Recycling.size(), 1u);
-  EXPECT_FALSE(lamp_optics::TakeRecycling(lamp, {}));
-  EXPECT_THAT(lamp.Recycling, IsEmpty());
 }
 
 TEST(LampOpticsCheck, SaysWhatIsWrong) {

@@ -18,44 +18,42 @@ namespace {
 
 namespace fs = std::filesystem;
 using lamp_optics::LoadReport;
+using platform::ShortestText;
 
 const fs::path kFiles = fs::path(SYSDEF_SOURCE_DIR) / "tests/pages/lamp_optics/rules/files";
 
 std::string PointsText(const std::vector<SpectralPoint>& points) {
-  std::string text;
+  std::string text = "points:";
   for (const SpectralPoint& point : points) {
-    text += " " + std::to_string(point.Wavelength) + ":" + platform::ShortestText(point.Value);
+    text += " " + std::to_string(point.Wavelength) + ":" + ShortestText(point.Value);
   }
-  return "points:" + text + "\n";
+  return text + "\n";
 }
 
-std::string ReportText(const LoadReport& report, bool accepted) {
-  std::string text = accepted ? "accepted\n" : "not accepted\n";
-  for (const std::string& line : ReportLines(report)) text += line + "\n";
+/// What every reader gives, behind what is its own.
+template <class File>
+std::string Text(std::string text, const File& file, const std::vector<SpectralPoint>& points) {
+  text += PointsText(points) + (file.Accepted() ? "accepted\n" : "not accepted\n");
+  for (const std::string& line : ReportLines(file.report)) text += line + "\n";
   return text;
 }
 
 std::string Text(const lamp_optics::LampFile& file) {
   const SLampRecord& lamp = file.record;
-  std::string apertures;
+  std::string text = "name: " + lamp.Name + "\nlumens: " + ShortestText(lamp.TotalLumens) +
+                     "\npower: " + ShortestText(lamp.LampPower) +
+                     "\nflag: " + std::to_string(lamp.OpticsFlag) + "\napertures:";
   for (const ApertureLumens& entry : lamp.LumensVsAperture) {
-    apertures +=
-        " " + platform::ShortestText(entry.Aperture) + ":" + platform::ShortestText(entry.Lumens);
+    text += " " + ShortestText(entry.Aperture) + ":" + ShortestText(entry.Lumens);
   }
-  return "name: " + lamp.Name + "\nlumens: " + platform::ShortestText(lamp.TotalLumens) +
-         "\npower: " + platform::ShortestText(lamp.LampPower) +
-         "\nflag: " + std::to_string(lamp.OpticsFlag) + "\napertures:" + apertures + "\n" +
-         PointsText(lamp.Response) + ReportText(file.report, file.Accepted());
+  return Text(text + "\n", file, lamp.Response);
 }
 
 std::string Text(const lamp_optics::OpticsFile& file) {
-  return "name: " + file.record.Name + "\n" + PointsText(file.record.Response) +
-         ReportText(file.report, file.Accepted());
+  return Text("name: " + file.record.Name + "\n", file, file.record.Response);
 }
 
-std::string Text(const lamp_optics::RecyclingFile& file) {
-  return PointsText(file.points) + ReportText(file.report, file.Accepted());
-}
+std::string Text(const lamp_optics::RecyclingFile& file) { return Text("", file, file.points); }
 
 /// What is in the file, as its reader took it.
 std::string ReadText(const fs::path& file) {
