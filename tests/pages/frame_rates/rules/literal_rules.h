@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "pages/frame_rates/rules/rate_bin.h"
 #include "pages/frame_rates/rules/sequence_range.h"
 
 /// The rules of the bin table in the plainest possible words, step by step and without regard to
@@ -16,14 +17,13 @@ namespace literal {
 using Count = std::uint32_t;
 constexpr double K = 15000000;
 
-struct Bin {
-  double minRate, maxRate;
-  Count maxCount, minCount, multiplier;
-  bool internal;
-  std::size_t range;
-};
-
+using Bin = frame_rates::RateBin;
 using Bins = std::vector<Bin>;
+
+inline Bin Make(double minRate, double maxRate, Count maxCount, Count minCount, Count multiplier,
+                bool internal, std::size_t range = 0, frame_rates::BinOrigin origin = {}) {
+  return {minRate, maxRate, maxCount, minCount, multiplier, internal, range, origin, {}, {}};
+}
 
 inline Bins Candidates(const std::vector<frame_rates::SequenceRange>& ranges) {
   Bins bins;
@@ -34,8 +34,8 @@ inline Bins Candidates(const std::vector<frame_rates::SequenceRange>& ranges) {
       if (std::count(skip.begin(), skip.end(), static_cast<int>(m)) > 0) continue;
       double slowest = ranges[r].minRateHz / m;
       if (m >= 2 && 55.0 > ranges[r].minRateHz) slowest = 55.0 / m;
-      bins.push_back({slowest, K / (m * n), static_cast<Count>(std::floor(K / slowest + 0.5)),
-                      m * n, m, false, r});
+      bins.push_back(Make(slowest, K / (m * n), static_cast<Count>(std::floor(K / slowest + 0.5)),
+                          m * n, m, false, r));
     }
   }
   return bins;
@@ -57,14 +57,14 @@ inline bool ScanOnce(Bins& bins) {
     if (!(p.minCount - 1 < c.maxCount && p.minCount > c.minCount)) continue;
     if (p.maxCount - p.minCount > c.maxCount - c.minCount) {
       c.maxCount = p.minCount - 1;
-      c.minRate = K / c.maxCount;
+      c.minRateHz = K / c.maxCount;
       if (c.minCount >= c.maxCount) {
         bins.erase(bins.begin() + static_cast<std::ptrdiff_t>(i));
         return true;
       }
     } else {
       p.minCount = c.maxCount + 1;
-      p.maxRate = K / p.minCount;
+      p.maxRateHz = K / p.minCount;
       if (p.minCount >= p.maxCount) {
         bins.erase(bins.begin() + static_cast<std::ptrdiff_t>(i - 1));
         return true;
@@ -86,15 +86,15 @@ inline void FillGaps(Bins& bins) {
     const Bin& c = present[i];
     if (p.minCount - 1 > c.maxCount) {
       bins.push_back(
-          {K / (p.minCount - 1), K / c.maxCount, p.minCount - 1, c.maxCount, 1, true, 0});
+          Make(K / (p.minCount - 1), K / c.maxCount, p.minCount - 1, c.maxCount, 1, true));
     }
   }
   const Count below = present[0].maxCount + 1;
-  bins.push_back({0.003492459655621196, K / below, 4294967295U, below, 1, true, 0});
+  bins.push_back(Make(0.003492459655621196, K / below, 4294967295U, below, 1, true));
   Sort(bins);
   const Bin top = bins.back();
   if (top.minCount != 1) {
-    bins.push_back({K / (top.minCount - 1), 15000000.0, top.minCount - 1, 0, 1, true, 0});
+    bins.push_back(Make(K / (top.minCount - 1), 15000000.0, top.minCount - 1, 0, 1, true));
   }
 }
 
@@ -114,19 +114,19 @@ inline bool Force(Bins& bins) {
     start = i;
   } else if (526316 < slow.maxCount) {
     slow.minCount = 526317;
-    slow.maxRate = K / 526317;
+    slow.maxRateHz = K / 526317;
   }
   Bin& fast = bins[static_cast<std::size_t>(j)];
   if (fast.minCount == 476190) {
     count++;
   } else if (fast.minCount < 476190) {
     fast.maxCount = 476189;
-    fast.minRate = K / 476189;
+    fast.minRateHz = K / 476189;
   }
   for (; count > 0 && start < static_cast<int>(bins.size()); --count) {
     bins.erase(bins.begin() + start);
   }
-  bins.push_back({28.5, 31.5, 526316, 476190, 2, false, 0});
+  bins.push_back(Make(28.5, 31.5, 526316, 476190, 2, false));
   return true;
 }
 

@@ -14,6 +14,8 @@
 namespace frame_rates {
 namespace {
 
+using literal::Make;
+
 constexpr int kSets = 20000;
 
 SequenceRange Range(double low, double high, int maxMultiplier) {
@@ -40,55 +42,27 @@ std::vector<std::pair<std::uint32_t, std::uint32_t>> Counts(const std::vector<Ra
   return counts;
 }
 
-literal::Bins Plain(const std::vector<RateBin>& bins) {
-  literal::Bins plain;
-  for (const RateBin& b : bins) {
-    plain.push_back(
-        {b.minRateHz, b.maxRateHz, b.maxCount, b.minCount, b.multiplier, b.internalSync, b.range});
-  }
-  return plain;
-}
-
 testing::AssertionResult Same(const std::vector<RateBin>& bins, const literal::Bins& literal) {
-  const literal::Bins plain = Plain(bins);
-  const auto same = [](const literal::Bin& a, const literal::Bin& b) {
-    return a.minRate == b.minRate && a.maxRate == b.maxRate && a.maxCount == b.maxCount &&
-           a.minCount == b.minCount && a.multiplier == b.multiplier && a.internal == b.internal &&
-           a.range == b.range;
+  const auto fields = [](const RateBin& b) {
+    return std::tuple(b.minRateHz, b.maxRateHz, b.maxCount, b.minCount, b.multiplier,
+                      b.internalSync, b.range);
   };
-  if (std::ranges::equal(plain, literal, same)) return testing::AssertionSuccess();
+  if (std::ranges::equal(bins, literal, {}, fields, fields)) return testing::AssertionSuccess();
   return testing::AssertionFailure() << "got " << testing::PrintToString(Counts(bins))
                                      << ", by the rule " << literal.size() << " bins";
 }
 
 TEST(RateTable, GivesTheWorkedExampleToTheLastCount) {
   const RateTable table = ComputeRateTable({Range(47.5, 63.0, 2)});
-  struct Expected {
-    std::uint32_t minCount, maxCount;
-    double minRate, maxRate;
-    std::uint32_t multiplier;
-    bool internal;
-    BinOrigin origin;
-  };
-  const std::vector<Expected> expected{
-      {545456, 4294967295U, 0.003492459655621196, 15e6 / 545456, 1, true, BinOrigin::kBottom},
-      {526317, 545455, 27.5, 15e6 / 526317, 2, false, BinOrigin::kCandidate},
-      {476190, 526316, 28.5, 31.5, 2, false, BinOrigin::kForced},
-      {315789, 476189, 15e6 / 476189, 15e6 / 315789, 1, true, BinOrigin::kGap},
-      {238095, 315789, 47.5, 15e6 / 238095, 1, false, BinOrigin::kCandidate},
-      {0, 238094, 15e6 / 238094, 15e6, 1, true, BinOrigin::kTop}};
-  ASSERT_EQ(table.bins.size(), expected.size());
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    const RateBin& bin = table.bins[i];
-    SCOPED_TRACE(i);
-    EXPECT_EQ(bin.minCount, expected[i].minCount);
-    EXPECT_EQ(bin.maxCount, expected[i].maxCount);
-    EXPECT_EQ(bin.minRateHz, expected[i].minRate);
-    EXPECT_EQ(bin.maxRateHz, expected[i].maxRate);
-    EXPECT_EQ(bin.multiplier, expected[i].multiplier);
-    EXPECT_EQ(bin.internalSync, expected[i].internal);
-    EXPECT_EQ(bin.origin, expected[i].origin);
-  }
+  const literal::Bins expected{
+      Make(0.003492459655621196, 15e6 / 545456, kLastCount, 545456, 1, true, 0, BinOrigin::kBottom),
+      Make(27.5, 15e6 / 526317, 545455, 526317, 2, false, 0, BinOrigin::kCandidate),
+      Make(28.5, 31.5, 526316, 476190, 2, false, 0, BinOrigin::kForced),
+      Make(15e6 / 476189, 15e6 / 315789, 476189, 315789, 1, true, 0, BinOrigin::kGap),
+      Make(47.5, 15e6 / 238095, 315789, 238095, 1, false, 0, BinOrigin::kCandidate),
+      Make(15e6 / 238094, 15e6, 238094, 0, 1, true, 0, BinOrigin::kTop)};
+  EXPECT_TRUE(Same(table.bins, expected));
+  EXPECT_TRUE(std::ranges::equal(table.bins, expected, {}, &RateBin::origin, &RateBin::origin));
 }
 
 TEST(RateTable, StoresWhatItsBinsSay) {
@@ -96,15 +70,8 @@ TEST(RateTable, StoresWhatItsBinsSay) {
   range.index = 4;
   const std::vector<FreqBinData> stored = ToFreqBins(ComputeRateTable({range}));
   ASSERT_EQ(stored.size(), 4U) << "bottom, forced, the range, top";
-  const FreqBinData& bin = stored[2];
-  EXPECT_EQ(bin.MinFrameCount, 115385U);
-  EXPECT_EQ(bin.MaxFrameCount, 136364U);
-  EXPECT_EQ(bin.LookBinIndex, 4);
-  EXPECT_EQ(bin.SequenceMultiplier, 1);
-  EXPECT_EQ(bin.IsLockToInternalVsync, 0);
-  EXPECT_EQ(bin.Enable3d, 1);
-  EXPECT_EQ(bin.label, "60");
-  EXPECT_EQ(bin.minRateHz, 110.0);
+  FreqBinData expected{136364, 115385, 4, 1, 0, 1, "60", 110.0, 15e6 / 115385};
+  EXPECT_EQ(stored[2], expected);
   EXPECT_EQ(stored[1].SequenceMultiplier, 2) << "the forced bin";
   EXPECT_EQ(stored[3].IsLockToInternalVsync, 1);
 }
@@ -132,58 +99,40 @@ TEST(Candidates, AreNotMadeOfRatesThatCannotBeCounted) {
   EXPECT_EQ(MakeCandidates(std::vector{Range(50, 60, 2000000000)}).size(), 255U);
 }
 
-TEST(Overlaps, TheWiderOfTwoNeighboursGivesWay) {
-  struct Case {
+TEST(Steps, MakeRoomAsTheRulesSay) {
+  const auto forced = [](std::vector<RateBin>& bins) { EXPECT_TRUE(PlaceForcedBin(bins)); };
+  const std::pair forcedBin(476190u, 526316u);
+  const struct {
     const char* what;
+    void (*step)(std::vector<RateBin>&);
     std::vector<RateBin> bins;
     std::vector<std::pair<std::uint32_t, std::uint32_t>> left;
-  };
-  const std::vector<Case> cases{
-      {"the slower is wider: the faster loses its slow end",
-       {Bin(100, 300), Bin(50, 150)},
-       {{100, 300}, {50, 99}}},
-      {"the faster is as wide: the slower loses its fast end",
-       {Bin(100, 200), Bin(50, 150)},
-       {{151, 200}, {50, 150}}},
-      {"what is used up goes, and the neighbours are looked at again",
-       {Bin(140, 400), Bin(100, 200), Bin(90, 300)},
-       {{140, 400}, {90, 139}}},
-      {"one tick left is used up", {Bin(100, 300), Bin(98, 150)}, {{100, 300}, {98, 99}}},
-      {"touching is no overlap", {Bin(100, 300), Bin(50, 99)}, {{100, 300}, {50, 99}}},
-      {"bins of equal fast ends stay", {Bin(100, 300), Bin(100, 150)}, {{100, 300}, {100, 150}}}};
-  for (auto [what, bins, left] : cases) {
-    ResolveOverlaps(bins);
-    EXPECT_EQ(Counts(bins), left) << what;
-  }
-}
-
-TEST(Gaps, AreNotFilledAboveTheFastestCount) {
-  std::vector<RateBin> bins{Bin(1, 1000)};
-  FillGaps(bins);
-  EXPECT_EQ(Counts(bins),
-            (std::vector<std::pair<std::uint32_t, std::uint32_t>>{{1001, kLastCount}, {1, 1000}}));
-}
-
-TEST(ForcedBin, MakesRoomAsTheRuleSays) {
-  using Left = std::vector<std::pair<std::uint32_t, std::uint32_t>>;
-  struct Case {
-    const char* what;
-    std::vector<RateBin> bins;
-    Left left;
-  };
-  const std::pair<std::uint32_t, std::uint32_t> forced{476190, 526316};
-  const std::vector<Case> cases{
-      {"a bin that holds it whole keeps its slow part",
-       {Bin(1, 900000)},
-       {{526317, 900000}, forced}},
-      {"both neighbours are trimmed, what lies within goes",
-       {Bin(520000, 600000), Bin(480000, 519999), Bin(400000, 479999)},
-       {{526317, 600000}, {400000, 476189}, forced}},
-      {"bins that end where it ends go",
-       {Bin(526317, 600000), Bin(500000, 526316), Bin(476190, 499999), Bin(3, 476189)},
-       {{526317, 600000}, {3, 476189}, forced}}};
-  for (auto [what, bins, left] : cases) {
-    EXPECT_TRUE(PlaceForcedBin(bins)) << what;
+  } cases[] = {{"the slower is wider: the faster loses its slow end",
+                ResolveOverlaps,
+                {Bin(100, 300), Bin(50, 150)},
+                {{100, 300}, {50, 99}}},
+               {"the faster is as wide: the slower loses its fast end",
+                ResolveOverlaps,
+                {Bin(100, 200), Bin(50, 150)},
+                {{151, 200}, {50, 150}}},
+               {"what is used up goes, and the neighbours are looked at again",
+                ResolveOverlaps,
+                {Bin(140, 400), Bin(100, 200), Bin(90, 300)},
+                {{140, 400}, {90, 139}}},
+               {"nothing is above the fastest count",
+                FillGaps,
+                {Bin(1, 1000)},
+                {{1001, kLastCount}, {1, 1000}}},
+               {"a bin that holds the forced one whole keeps its slow part",
+                forced,
+                {Bin(1, 900000)},
+                {{526317, 900000}, forcedBin}},
+               {"both neighbours are trimmed, what lies within goes",
+                forced,
+                {Bin(520000, 600000), Bin(480000, 519999), Bin(400000, 479999)},
+                {{526317, 600000}, {400000, 476189}, forcedBin}}};
+  for (auto [what, step, bins, left] : cases) {
+    step(bins);
     EXPECT_EQ(Counts(bins), left) << what;
   }
   std::vector<RateBin> hole{Bin(526317, 900000), Bin(1, 500000)};
@@ -191,26 +140,30 @@ TEST(ForcedBin, MakesRoomAsTheRuleSays) {
   EXPECT_EQ(hole.size(), 2U);
 }
 
+/// Every step on the bins, beside its literal reading.
+void ExpectStepsAgree(std::vector<RateBin> bins, literal::Bins literal) {
+  ASSERT_TRUE(Same(bins, literal)) << "candidates";
+  SortBins(bins);
+  literal::Sort(literal);
+  ASSERT_TRUE(Same(bins, literal)) << "sort";
+  ResolveOverlaps(bins);
+  literal::Resolve(literal);
+  ASSERT_TRUE(Same(bins, literal)) << "overlaps";
+  if (bins.empty()) return;
+  FillGaps(bins);
+  literal::FillGaps(literal);
+  ASSERT_TRUE(Same(bins, literal)) << "gaps";
+  ASSERT_EQ(PlaceForcedBin(bins), literal::Force(literal));
+  ASSERT_TRUE(Same(bins, literal)) << "forced bin";
+}
+
 TEST(Steps, AgreeWithTheirLiteralReading) {
   constexpr unsigned kSeed = 40201;
   random_ranges::Source source(kSeed);
   for (int set = 0; set < kSets; ++set) {
     const auto ranges = random_ranges::Set(source);
-    std::vector<RateBin> bins = MakeCandidates(ranges);
-    literal::Bins literal = literal::Candidates(ranges);
-    ASSERT_TRUE(Same(bins, literal)) << "candidates of set " << set << ", seed " << kSeed;
-    SortBins(bins);
-    literal::Sort(literal);
-    ASSERT_TRUE(Same(bins, literal)) << "sort of set " << set << ", seed " << kSeed;
-    ResolveOverlaps(bins);
-    literal::Resolve(literal);
-    ASSERT_TRUE(Same(bins, literal)) << "overlaps of set " << set << ", seed " << kSeed;
-    if (bins.empty()) continue;
-    FillGaps(bins);
-    literal::FillGaps(literal);
-    ASSERT_TRUE(Same(bins, literal)) << "gaps of set " << set << ", seed " << kSeed;
-    ASSERT_EQ(PlaceForcedBin(bins), literal::Force(literal)) << "set " << set;
-    ASSERT_TRUE(Same(bins, literal)) << "forced bin of set " << set << ", seed " << kSeed;
+    ASSERT_NO_FATAL_FAILURE(ExpectStepsAgree(MakeCandidates(ranges), literal::Candidates(ranges)))
+        << "set " << set << ", seed " << kSeed;
   }
 }
 
@@ -229,16 +182,7 @@ TEST(Steps, AgreeWithTheirLiteralReadingOnAnyBins) {
       bins.push_back(Bin(count(), count()));
       bins.back().multiplier = static_cast<std::uint32_t>(size);
     }
-    SortBins(bins);
-    literal::Bins literal = Plain(bins);
-    ResolveOverlaps(bins);
-    literal::Resolve(literal);
-    ASSERT_TRUE(Same(bins, literal)) << "overlaps of set " << set << ", seed " << kSeed;
-    if (bins.empty()) continue;
-    FillGaps(bins);
-    literal::FillGaps(literal);
-    ASSERT_EQ(PlaceForcedBin(bins), literal::Force(literal)) << "set " << set << ", seed " << kSeed;
-    ASSERT_TRUE(Same(bins, literal)) << "forced bin of set " << set << ", seed " << kSeed;
+    ASSERT_NO_FATAL_FAILURE(ExpectStepsAgree(bins, bins)) << "set " << set << ", seed " << kSeed;
   }
 }
 
@@ -275,8 +219,7 @@ void ExpectWholeTable(const RateTable& table) {
 }
 
 void ExpectKnownHolesOnly(const RateTable& table) {
-  const std::vector<FreqBinData> stored = ToFreqBins(table);
-  const Coverage coverage = CoverageOf(stored);
+  const Coverage coverage = CoverageOf(ToFreqBins(table));
   for (const CountSpan& hole : coverage.unserved) {
     EXPECT_EQ(hole.maxCount, kForcedMinCount - 1) << "a hole not beside the forced bin";
   }

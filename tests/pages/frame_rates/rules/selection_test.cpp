@@ -32,69 +32,33 @@ TEST(SequenceRanges, AreReadUpToTheFirstWithoutABaseRate) {
   EXPECT_EQ(ReadSequenceRanges(project).size(), 1U);
 }
 
-TEST(SequenceRanges, AbsentKeysAreNothing) {
-  OstProject project;
-  EXPECT_TRUE(ReadSequenceRanges(project).empty());
-  project.SetKey("projectclass.seqrange.group1.seq1.basehz", "60");
-  const SequenceRange range = ReadSequenceRanges(project).at(0);
-  EXPECT_EQ(range.minRateHz, 0.0);
-  EXPECT_EQ(range.maxRateHz, 0.0);
-  EXPECT_EQ(range.maxMultiplier, 0);
-  EXPECT_THAT(range.skippedMultipliers, ElementsAre());
-}
-
 TEST(SkipList, IsSplitAtItsCommas) {
   EXPECT_THAT(ParseSkipList("2,3, 5"), ElementsAre(2, 3, 5));
   EXPECT_THAT(ParseSkipList("7x,,-2"), ElementsAre(7, 0, -2));
   EXPECT_THAT(ParseSkipList("99999999999"), ElementsAre(2147483647));
 }
 
-class Selection : public testing::Test {
- protected:
-  Selection() {
-    SetRange(project_, 1, "50", "45", "52", "4");
-    SetRange(project_, 2, "60", "47.5", "60", "2");
-    SetRange(project_, 3, "63", "60", "66", "2");
-    ranges_ = ReadSequenceRanges(project_);
-  }
-  OstProject project_;
-  std::vector<SequenceRange> ranges_;
-};
-
-TEST_F(Selection, DefaultsToTheFirstRangeThatHolds60Hz) {
-  struct Case {
+TEST(Selection, DefaultsToTheFirstRangeThatHolds60Hz) {
+  OstProject project;
+  SetRange(project, 1, "50", "45", "52", "4");
+  SetRange(project, 2, "60", "47.5", "60", "2");
+  SetRange(project, 3, "63", "60", "66", "2");
+  const std::vector<SequenceRange> ranges = ReadSequenceRanges(project);
+  const struct {
     const char* what;
     std::vector<double> stored, chosen;
     bool changed;
-  };
-  for (auto [what, rates, chosen, changed] :
-       {Case{"nothing stored", {}, {60}, true},
-        Case{"a rate that no range has", {50, 61}, {60}, true},
-        Case{"all known", {50, 63}, {50, 63}, false},
-        Case{"known, without a range of 60 Hz", {50}, {50}, false}}) {
-    EXPECT_EQ(SelectDefault(ranges_, rates), changed) << what;
+  } cases[] = {{"nothing stored", {}, {60}, true},
+               {"a rate that no range has", {50, 61}, {60}, true},
+               {"all known", {50, 63}, {50, 63}, false},
+               {"known, without a range of 60 Hz", {50}, {50}, false}};
+  for (auto [what, rates, chosen, changed] : cases) {
+    EXPECT_EQ(SelectDefault(ranges, rates), changed) << what;
     EXPECT_EQ(rates, chosen) << what;
   }
-  EXPECT_TRUE(CanToggle(ranges_[0]));
-  EXPECT_FALSE(CanToggle(ranges_[1]));
-  EXPECT_FALSE(CanToggle(ranges_[2]));
-}
-
-TEST_F(Selection, StaysAsItIsWithoutARangeOf60Hz) {
-  const std::vector<SequenceRange> slow{ranges_[0]};
-  std::vector<double> rates{50, 61};
-  EXPECT_FALSE(SelectDefault(slow, rates));
-  EXPECT_THAT(rates, ElementsAre(50, 61));
-  EXPECT_EQ(SelectedRanges(slow, rates).size(), 1U) << "only what matches is selected";
-}
-
-TEST_F(Selection, IsStoredInListOrder) {
-  std::vector<double> rates{63, 50};
-  EXPECT_TRUE(StoreSelection(ranges_, {true, false, true}, rates));
-  EXPECT_THAT(rates, ElementsAre(50, 63));
-  EXPECT_FALSE(StoreSelection(ranges_, {true, false, true}, rates));
-  EXPECT_TRUE(StoreSelection(ranges_, {true, true, true}, rates));
-  EXPECT_EQ(SelectedRanges(ranges_, rates)[1].index, 1);
+  EXPECT_TRUE(CanToggle(ranges[0]));
+  EXPECT_FALSE(CanToggle(ranges[1]));
+  EXPECT_FALSE(CanToggle(ranges[2]));
 }
 
 }  // namespace
