@@ -138,17 +138,22 @@ TEST(FrameRatesPage, ARevertToAnEmptySelectionChoosesTheDefaultAgain) {
 }
 
 TEST(FrameRatesPage, AStoredRateThatNoRangeHasEmptiesTheSelection) {
-  {
-    RatesPage page(kFour, "<SequenceRate hertz=\"72\"/><SequenceRate hertz=\"71\"/>");
-    EXPECT_EQ(page.Chosen(), "NYNN");
-    EXPECT_TRUE(page.TakeChanged());
+  const struct {
+    std::vector<Range> ranges;
+    const char *first, *second;
+    const char* chosen;
+    bool changed;
+  } cases[] = {{kFour, "72", "71", "NYNN", true},
+               {kFour, "72", "60.0", "NYYN", false},
+               {kFour, "50", "72", "YNYN", false},
+               // Without a range that is always selected the content stays, and what matches shows.
+               {{kFour[2], kFour[3]}, "72.0", "71", "YN", false}};
+  for (const auto& [ranges, first, second, chosen, changed] : cases) {
+    const std::string rate = "<SequenceRate hertz=\"";
+    RatesPage page(ranges, rate + first + "\"/>" + rate + second + "\"/>");
+    EXPECT_EQ(page.Chosen(), chosen);
+    EXPECT_EQ(page.TakeChanged(), changed) << chosen;
   }
-  // Without a range that is always selected the content stays, and what matches shows.
-  RatesPage page({kFour[2], kFour[3]},
-                 "<SequenceRate hertz=\"72.0\"/><SequenceRate hertz=\"71\"/>");
-  EXPECT_EQ(page.Chosen(), "YN");
-  EXPECT_FALSE(page.TakeChanged());
-  EXPECT_THAT(page.Rows(), testing::Contains("69.00 - 76.00 Hz LEV"));
 }
 
 TEST(FrameRatesPage, WithoutASelectionThereIsNothingToShow) {

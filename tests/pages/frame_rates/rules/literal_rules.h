@@ -19,9 +19,10 @@ constexpr double K = 15000000;
 
 using Bin = frame_rates::RateBin;
 using Bins = std::vector<Bin>;
+using Origin = frame_rates::BinOrigin;
 
 inline Bin Make(double minRate, double maxRate, Count maxCount, Count minCount, Count multiplier,
-                bool internal, std::size_t range = 0, frame_rates::BinOrigin origin = {}) {
+                bool internal, Origin origin, std::size_t range = 0) {
   return {minRate, maxRate, maxCount, minCount, multiplier, internal, range, origin, {}, {}};
 }
 
@@ -35,7 +36,7 @@ inline Bins Candidates(const std::vector<frame_rates::SequenceRange>& ranges) {
       double slowest = ranges[r].minRateHz / m;
       if (m >= 2 && 55.0 > ranges[r].minRateHz) slowest = 55.0 / m;
       bins.push_back(Make(slowest, K / (m * n), static_cast<Count>(std::floor(K / slowest + 0.5)),
-                          m * n, m, false, r));
+                          m * n, m, false, Origin::kCandidate, r));
     }
   }
   return bins;
@@ -85,16 +86,18 @@ inline void FillGaps(Bins& bins) {
     const Bin& p = present[i - 1];
     const Bin& c = present[i];
     if (p.minCount - 1 > c.maxCount) {
-      bins.push_back(
-          Make(K / (p.minCount - 1), K / c.maxCount, p.minCount - 1, c.maxCount, 1, true));
+      bins.push_back(Make(K / (p.minCount - 1), K / c.maxCount, p.minCount - 1, c.maxCount, 1, true,
+                          Origin::kGap));
     }
   }
   const Count below = present[0].maxCount + 1;
-  bins.push_back(Make(0.003492459655621196, K / below, 4294967295U, below, 1, true));
+  bins.push_back(
+      Make(0.003492459655621196, K / below, 4294967295U, below, 1, true, Origin::kBottom));
   Sort(bins);
   const Bin top = bins.back();
   if (top.minCount != 1) {
-    bins.push_back(Make(K / (top.minCount - 1), 15000000.0, top.minCount - 1, 0, 1, true));
+    bins.push_back(
+        Make(K / (top.minCount - 1), 15000000.0, top.minCount - 1, 0, 1, true, Origin::kTop));
   }
 }
 
@@ -126,8 +129,19 @@ inline bool Force(Bins& bins) {
   for (; count > 0 && start < static_cast<int>(bins.size()); --count) {
     bins.erase(bins.begin() + start);
   }
-  bins.push_back(Make(28.5, 31.5, 526316, 476190, 2, false));
+  bins.push_back(Make(28.5, 31.5, 526316, 476190, 2, false, Origin::kForced));
   return true;
+}
+
+inline Bins Table(const std::vector<frame_rates::SequenceRange>& ranges) {
+  Bins bins = Candidates(ranges);
+  Sort(bins);
+  Resolve(bins);
+  if (bins.empty()) return bins;
+  literal::FillGaps(bins);
+  if (!Force(bins)) return {};
+  Sort(bins);
+  return bins;
 }
 
 }  // namespace literal

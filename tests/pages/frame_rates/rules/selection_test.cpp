@@ -38,27 +38,17 @@ TEST(SkipList, IsSplitAtItsCommas) {
   EXPECT_THAT(ParseSkipList("99999999999"), ElementsAre(2147483647));
 }
 
-TEST(Selection, DefaultsToTheFirstRangeThatHolds60Hz) {
+TEST(Selection, IsStoredInListOrder) {
   OstProject project;
   SetRange(project, 1, "50", "45", "52", "4");
-  SetRange(project, 2, "60", "47.5", "60", "2");
-  SetRange(project, 3, "63", "60", "66", "2");
+  SetRange(project, 2, "63", "60", "66", "2");
   const std::vector<SequenceRange> ranges = ReadSequenceRanges(project);
-  const struct {
-    const char* what;
-    std::vector<double> stored, chosen;
-    bool changed;
-  } cases[] = {{"nothing stored", {}, {60}, true},
-               {"a rate that no range has", {50, 61}, {60}, true},
-               {"all known", {50, 63}, {50, 63}, false},
-               {"known, without a range of 60 Hz", {50}, {50}, false}};
-  for (auto [what, rates, chosen, changed] : cases) {
-    EXPECT_EQ(SelectDefault(ranges, rates), changed) << what;
-    EXPECT_EQ(rates, chosen) << what;
-  }
+  std::vector<double> rates{63, 50};
+  EXPECT_TRUE(StoreSelection(ranges, {true, true}, rates));
+  EXPECT_THAT(rates, ElementsAre(50, 63));
+  EXPECT_FALSE(StoreSelection(ranges, {true, true}, rates));
   EXPECT_TRUE(CanToggle(ranges[0]));
-  EXPECT_FALSE(CanToggle(ranges[1]));
-  EXPECT_FALSE(CanToggle(ranges[2]));
+  EXPECT_FALSE(CanToggle(ranges[1])) << "60 Hz is its end";
 }
 
 }  // namespace
