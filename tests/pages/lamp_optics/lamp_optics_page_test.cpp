@@ -371,46 +371,39 @@ TEST(LampOpticsPage, RecyclingWorksThoughItIsHidden) {
 
 TEST(LampOpticsPage, ModelEntriesAreTakenWithinTheirLimits) {
   const struct {
-    const char* box;
-    const char* text;
-    const char* shown = nullptr;  ///< null: refused
-    double OpticsModel::*member = nullptr;
-  } entries[] = {{"Slope Factor SW", "1", "1.000", &OpticsModel::SwSlopeFactor},
-                 {"Slope Factor SW", "1.001"},
-                 {"Slope Factor LW", "0.1239", "0.124", &OpticsModel::LwSlopeFactor},
-                 {"Slope Factor LW", "-0.1"},
-                 {"50% Intersect SW", "360", "360.0", &OpticsModel::Sw50Intersect},
-                 {"50% Intersect SW", "359"},
-                 {"50% Intersect LW", "850", "850.0", &OpticsModel::Lw50Intersect},
-                 {"50% Intersect LW", "850.1"},
-                 {"Peak Transmission", "0.256", "0.26", &OpticsModel::PeakTransmission},
-                 {"Peak Transmission", "1.1"},
-                 {"Blue Reduce", "-1", "-1.0", &OpticsModel::BlueReduce},
-                 {"Blue Reduce", "-1.1"},
-                 {"Peak Wavelength", "360", "360.0", &OpticsModel::PeakWavelength},
-                 {"Peak Wavelength", "x"},
-                 {"Peaking", "0.5", "0.500", &OpticsModel::Peaking},
-                 {"Peaking", "2"}};
-  for (const auto& [box, text, shown, member] : entries) {
-    SCOPED_TRACE(testing::Message() << box << ": " << text);
+    const char *box, *refused, *taken, *shown;
+    double OpticsModel::*member;
+  } entries[] = {{"Slope Factor SW", "1.001", "1", "1.000", &OpticsModel::SwSlopeFactor},
+                 {"Slope Factor LW", "-0.1", "0.1239", "0.124", &OpticsModel::LwSlopeFactor},
+                 {"50% Intersect SW", "359", "360", "360.0", &OpticsModel::Sw50Intersect},
+                 {"50% Intersect LW", "850.1", "850", "850.0", &OpticsModel::Lw50Intersect},
+                 {"Peak Transmission", "1.1", "0.256", "0.26", &OpticsModel::PeakTransmission},
+                 {"Blue Reduce", "-1.1", "-1", "-1.0", &OpticsModel::BlueReduce},
+                 {"Peak Wavelength", "x", "360", "360.0", &OpticsModel::PeakWavelength},
+                 {"Peaking", "2", "0.5", "0.500", &OpticsModel::Peaking}};
+  for (const auto& each : entries) {
+    SCOPED_TRACE(each.box);
     Page page;
     LampOpticsData expected = page.Now();
-    page.interaction.OnDialog([&, box = box, text = text, shown = shown](automation::Form& dialog) {
-      EXPECT_EQ(dialog.Title(), "Optics Model");
-      dialog.GetControl(box).SetText(text);
-      EXPECT_THAT(page.interaction.TakeMessages(), SizeIs(shown ? 0 : 1));
-      EXPECT_EQ(dialog.GetControl(box).Text(), shown ? shown : text);
-      dialog.Press("OK");
-      EXPECT_EQ(dialog.Open(), !shown) << "OK refuses what leaving refuses";
-      (void)page.interaction.TakeMessages();
-      if (dialog.Open()) dialog.Press("Cancel");
-      EXPECT_THAT(page.interaction.TakeMessages(), IsEmpty()) << "cancelling asks nothing";
-    });
-    page.Control("Edit Parametric...").Click();
-    page.interaction.RethrowFailure();
-    EXPECT_EQ(page.TakeChanged(), shown != nullptr);
-    if (shown) expected.Optics.Model.*member = QString(text).toDouble();
-    EXPECT_EQ(page.Now(), expected);
+    for (const bool isTaken : {false, true}) {
+      const char* const text = isTaken ? each.taken : each.refused;
+      page.interaction.OnDialog([&](automation::Form& dialog) {
+        EXPECT_EQ(dialog.Title(), "Optics Model");
+        dialog.GetControl(each.box).SetText(text);
+        EXPECT_THAT(page.interaction.TakeMessages(), SizeIs(isTaken ? 0 : 1));
+        EXPECT_EQ(dialog.GetControl(each.box).Text(), isTaken ? each.shown : text);
+        dialog.Press("OK");
+        EXPECT_EQ(dialog.Open(), !isTaken) << "OK refuses what leaving refuses";
+        (void)page.interaction.TakeMessages();
+        if (dialog.Open()) dialog.Press("Cancel");
+        EXPECT_THAT(page.interaction.TakeMessages(), IsEmpty()) << "cancelling asks nothing";
+      });
+      page.Control("Edit Parametric...").Click();
+      page.interaction.RethrowFailure();
+      EXPECT_EQ(page.TakeChanged(), isTaken);
+      if (isTaken) expected.Optics.Model.*each.member = QString(text).toDouble();
+      EXPECT_EQ(page.Now(), expected);
+    }
   }
 }
 

@@ -49,6 +49,13 @@ class IlluminatorRows : public testing::Test {
   IlluminatorsPageData data_;
 };
 
+TEST_F(IlluminatorRows, StoreOnlyWhatWasEdited) {
+  EXPECT_TRUE(StoreRow(data_, 4, "Cyan", {}));
+  EXPECT_FALSE(StoreRow(data_, 4, "Cyan", {0.0, std::nullopt, std::nullopt})) << "the same value";
+  EXPECT_TRUE(StoreRow(data_, 1, "", {3.0, std::nullopt, std::nullopt}));
+  EXPECT_EQ(data_.characteristics[1].Row, 1) << "a fixed row keeps its illuminator";
+}
+
 TEST_F(IlluminatorRows, AreCheckedForWhatThePageCannotShow) {
   EXPECT_THAT(Rules(), ElementsAre());
   data_.characteristics[0].FallMargin = 2000.0;
