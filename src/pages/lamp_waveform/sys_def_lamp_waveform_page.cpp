@@ -128,7 +128,9 @@ void SysDefLampWaveformPage::ConnectControls() {
   QObject::connect(ui_->maker, &QComboBox::currentIndexChanged, window,
                    [this] { StoreAndRefresh(); });
   QObject::connect(ui_->uart, &QCheckBox::clicked, window, [this] { StoreAndRefresh(); });
-  GUI::WhenLeft(*ui_->waveformIndex, [this] { StoreAndRefresh(); });
+  GUI::WhenLeftForAnother(*ui_->waveformIndex, [this] { StoreAndRefresh(); });
+  QObject::connect(ui_->waveformIndex, &QLineEdit::returnPressed, window,
+                   [this] { StoreAndRefresh(); });
   const auto onClick = [window](const GUI::ImageButton* button, auto run) {
     QObject::connect(button, &QAbstractButton::clicked, window, run);
   };

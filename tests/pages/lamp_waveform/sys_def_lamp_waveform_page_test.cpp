@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QTest>
 
@@ -222,7 +223,9 @@ TEST(LampWaveformPage, StoresTheBallastSettings) {
   for (const char* refused : {"256", "-1", "1.5", "x"}) {
     page.Control(kIndex).SetText(refused);
     EXPECT_THAT(page.TakeTexts(), ElementsAre(HasSubstr("Please enter an integer"))) << refused;
-    EXPECT_TRUE(page.Control(kIndex).Widget().hasFocus()) << refused;
+    auto& field = dynamic_cast<QLineEdit&>(page.Control(kIndex).Widget());
+    EXPECT_TRUE(field.hasFocus()) << refused;
+    EXPECT_EQ(field.selectedText(), refused) << "the next key replaces it";
     EXPECT_FALSE(page.Apply()) << refused;
     (void)page.TakeTexts();
     EXPECT_FALSE(page.TakeChanged()) << refused;
@@ -392,6 +395,7 @@ TEST(LampWaveformPage, AWheelWithoutSegmentsShowsTheMessageOfTheEmptyTable) {
 TEST(LampWaveformPulses, AreAddedChangedAndDeleted) {
   WaveformPage page;
   page.LeavePulse(1, {"140.5", "30", "200", "40"}, "Cancel");
+  EXPECT_THAT(page.Pulses().Selected(), ElementsAre(std::pair(1, 1))) << "also in the picture";
   page.LeavePulse(1, {"100", "30", "200", "40"});
   EXPECT_THAT(page.TakeTexts(), ElementsAre(HasSubstr("No pulse added")));
   EXPECT_FALSE(page.TakeChanged());
