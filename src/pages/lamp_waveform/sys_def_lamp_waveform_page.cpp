@@ -141,7 +141,9 @@ void SysDefLampWaveformPage::ConnectControls() {
 }
 
 void SysDefLampWaveformPage::TakeForeign(const GUIInputsData& foreign) {
-  if (!data_ || foreign.ColorWheel == data_->ColorWheel) return;
+  if (!data_ || (storedWheel_ && *storedWheel_ == foreign.ColorWheel)) return;
+  storedWheel_ = std::make_unique<ColorWheelData>(foreign.ColorWheel);
+  if (foreign.ColorWheel == data_->ColorWheel) return;
   data_->ColorWheel = foreign.ColorWheel;
   Refresh();
 }

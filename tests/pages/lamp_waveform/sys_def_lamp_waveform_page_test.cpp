@@ -11,10 +11,13 @@
 
 #include "automation/script_page.h"
 #include "host/gui/message_box.h"
+#include "host/gui/page_host.h"
+#include "host/gui/page_services.h"
 #include "host/project/ost_command_line_info.h"
 #include "pages/lamp_waveform/rules/selection.h"
 #include "pages/lamp_waveform/rules/waveform_inputs.h"
 #include "pages/lamp_waveform/waveform_view.h"
+#include "platform/xml/document.h"
 #include "support/page_form.h"
 
 namespace {
@@ -372,13 +375,21 @@ TEST(LampWaveformPage, FollowsTheWheelThatItsOwnPageApplied) {
   page.Control(kIndex).SetText("77");
   auto wheel = automation::OpenPage(pages, "ColorWheelPage");
   wheel.GetTable("Segment Geometry").SetCell(1, 0, "White");
-  pages.Open("SysDefLampWaveformPage").OnSetActive();
+  auto& wrapper = automation::ActivatePage(pages, "SysDefLampWaveformPage");
   EXPECT_EQ(page.Pulses().Cell(1, 0), "G00") << "not applied yet";
   ASSERT_TRUE(pages.Apply("ColorWheelPage"));
-  pages.Open("SysDefLampWaveformPage").OnSetActive();
+  (void)automation::ActivatePage(pages, "SysDefLampWaveformPage");
   EXPECT_EQ(page.Pulses().Cell(0, 1), "Yes");
   EXPECT_EQ(page.Pulses().Cell(1, 0), "W00");
   EXPECT_EQ(page.Text(kIndex), "77") << "what was edited here stays";
+
+  auto& services = Framework::PageHost::Services(wrapper);
+  std::string data = services.ExportData().ToText(platform::xml::TextForm::kBare);
+  const std::string red = "<Color>0</Color>";
+  data.replace(data.find(red), red.size(), "<Color>6</Color>");
+  services.ImportData(platform::xml::Document::Parse(data));
+  (void)automation::ActivatePage(pages, "SysDefLampWaveformPage");
+  EXPECT_EQ(page.Pulses().Cell(0, 0), "Y00") << "what was imported here stays";
 }
 
 TEST(LampWaveformPage, AWheelWithoutSegmentsShowsTheMessageOfTheEmptyTable) {
