@@ -28,7 +28,8 @@ void CheckReport(const lamp_optics::LoadReport& report, const std::vector<Spectr
 }
 
 void CheckName(const std::string& name) {
-  Require(name.size() <= lamp_optics::kMaxNameBytes && platform::IsUtf8(name));
+  Require(lamp_optics::CharacterCount(name) <= lamp_optics::kMaxNameCharacters &&
+          platform::IsUtf8(name));
 }
 
 }  // namespace

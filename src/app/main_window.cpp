@@ -273,10 +273,17 @@ void MainWindow::ShowPage(int row) {
   if (!view_ || row < 0) return;
   if (view_->Activated(pageNames_[row].toUtf8().constData())) return;
   const std::string error = view_->LastError();
+  SelectShownPage();
+  // A click selects its row only after this.
+  QTimer::singleShot(0, this, &MainWindow::SelectShownPage);
+  if (!error.empty()) TellFailure(error);
+}
+
+void MainWindow::SelectShownPage() {
+  if (!view_) return;
   const QSignalBlocker quiet(selector_);
   selector_->setCurrentRow(
       static_cast<int>(pageNames_.indexOf(QString::fromStdString(view_->Current()))));
-  if (!error.empty()) TellFailure(error);
 }
 
 void MainWindow::StepPage(int step) {

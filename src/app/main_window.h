@@ -62,6 +62,7 @@ class MainWindow : public QMainWindow {
   void TryOpen(const QString& project);
   void FillRecent();
   void ShowPage(int row);
+  void SelectShownPage();
   void StepPage(int step);
   void NextPage() { StepPage(1); }
   void PreviousPage() { StepPage(-1); }

@@ -26,6 +26,8 @@ class GUIWrapper : public GUIWrapperNoOp<Page> {
       : data_(std::make_unique<Data>()),
         in_(std::make_unique<In>(this->page_->ToolName())),
         out_(std::make_unique<Out>(this->page_->ToolName())) {}
+  /// The window goes first: its controls work on the page and its data.
+  ~GUIWrapper() override { this->CloseWindow(); }
 
   bool ConfigureInTransform(const std::vector<const char*>& names) override {
     return in_->LoadTransform(names);

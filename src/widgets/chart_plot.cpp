@@ -16,8 +16,10 @@ namespace GUI {
 
 namespace {
 
-/// Markers along a line: enough to tell series apart, few enough to see the line.
+/// Markers along a line: enough to tell series apart, few enough to see the line. Few points are
+/// places of their own, such as the ends of steps, and each has its marker.
 constexpr int kMarkersPerSeries = 16;
+constexpr int kMarkedOneByOne = 48;
 constexpr int kMostLegendColumns = 5;
 /// How much of the chart's height the legend may take.
 constexpr double kMostLegendShare = 0.35;
@@ -159,7 +161,8 @@ ChartPlot::Private::Drawn ChartPlot::Private::Draw(const ChartSeries& s) {
     QCPGraph* graph = MakeGraph(s.points);
     const bool steps = s.style == LineChart::Style::kSteps;
     graph->setLineStyle(steps ? QCPGraph::lsStepLeft : QCPGraph::lsLine);
-    graph->setScatterSkip(static_cast<int>(s.points.size()) / kMarkersPerSeries);
+    const auto points = static_cast<int>(s.points.size());
+    graph->setScatterSkip(points > kMarkedOneByOne ? points / kMarkersPerSeries : 0);
     drawn = {graph, false, s.color};
   }
   drawn.plottable->setName(s.name);

@@ -13,6 +13,8 @@ const QString& CheckText(bool checked) {
   return checked ? yes : no;
 }
 
+int ItemHeight(const QWidget& list) { return list.fontMetrics().height() + 8; }
+
 }  // namespace
 
 checkedlist::checkedlist(QWidget* parent) : QTreeWidget(parent) {
@@ -32,7 +34,7 @@ QTreeWidgetItem& checkedlist::Item(int item) {
   while (topLevelItemCount() <= item) {
     auto* made = new QTreeWidgetItem(this, {QString(), CheckText(false)});
     made->setCheckState(0, Qt::Unchecked);
-    made->setSizeHint(0, {0, fontMetrics().height() + 8});
+    made->setSizeHint(0, {0, ItemHeight(*this)});
   }
   return *topLevelItem(item);
 }
@@ -59,6 +61,10 @@ void checkedlist::EnableItem(int item, bool enabled) {
 bool checkedlist::ItemEnabled(int item) const {
   const QTreeWidgetItem* found = topLevelItem(item);
   return found && !found->isDisabled();
+}
+
+QSize checkedlist::sizeHint() const {
+  return {QTreeWidget::sizeHint().width(), 5 * ItemHeight(*this) + 2 * frameWidth()};
 }
 
 void checkedlist::keyPressEvent(QKeyEvent* event) {

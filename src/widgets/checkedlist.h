@@ -24,6 +24,9 @@ class checkedlist : public QTreeWidget {
   void EnableItem(int item, bool enabled);
   [[nodiscard]] bool ItemEnabled(int item) const;
 
+  /// Room for five items.
+  [[nodiscard]] QSize sizeHint() const override;
+
  signals:
   /// The person checked or unchecked an item; column 1 reads the new state.
   void checkChanged(int item);

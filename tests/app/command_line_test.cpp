@@ -422,6 +422,9 @@ TEST_F(CommandLine, AProjectThatAnotherProgramHoldsIsNotSaved) {
   lock.unlock();
   EXPECT_EQ(command_.Run({"import", kProject, "PixmeldPage"}, Pixmeld("Inputs", "12.5")).status, 0);
   EXPECT_FALSE(command_.Exists(kDatabase + ".lock"));
+  // What a program leaves that is killed while it makes its lock.
+  command_.Write(kDatabase + ".lock", "");
+  EXPECT_EQ(command_.Run({"import", kProject, "PixmeldPage"}, Pixmeld("Inputs", "4.5")).status, 0);
 }
 
 TEST_F(CommandLine, FolderThatTakesNoFileIsSaidOnSave) {

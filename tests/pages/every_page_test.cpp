@@ -11,12 +11,14 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTest>
 #include <QWheelEvent>
 #include <set>
 
 #include "app/session.h"
 #include "automation/accessible_name.h"
 #include "automation/shown_text.h"
+#include "host/gui/message_box.h"
 #include "host/gui/page_host.h"
 #include "host/gui/tool_property_page.h"
 #include "support/temp_folder.h"
@@ -31,14 +33,22 @@ class EveryPage : public testing::TestWithParam<const char*> {
     const std::string sample = GetParam();
     fs::copy(fs::path(SYSDEF_SOURCE_DIR) / "samples" / sample, folder_.Path(),
              fs::copy_options::recursive);
-    session_ = std::make_unique<app::Session>(folder_.Path() / (sample + ".ostproj"));
-    for (const std::string& name : Framework::PageHost::Names()) {
+    file_ = folder_.Path() / (sample + ".ostproj");
+    Open(Framework::PageHost::Names());
+  }
+
+  void Open(const std::vector<std::string>& pages) {
+    windows_.clear();
+    session_.reset();
+    session_ = std::make_unique<app::Session>(file_);
+    for (const std::string& name : pages) {
       windows_.push_back(session_->Pages().Open(name).Window());
       windows_.back()->show();
     }
   }
 
   test::TempFolder folder_;
+  std::filesystem::path file_;
   std::unique_ptr<app::Session> session_;
   std::vector<QWidget*> windows_;
 };
@@ -100,6 +110,35 @@ TEST_P(EveryPage, ControlsHaveNamesOfTheirOwnAndATabPlace) {
           << window->windowTitle().toStdString();
     }
   }
+}
+
+// A project that is closed, or a program that ends, takes nothing that is being typed and asks
+// nothing.
+TEST_P(EveryPage, ClosingTakesNothingThatIsBeingTyped) {
+  std::vector<std::string> boxes;
+  SetMessageBoxResponder([&](const std::string& text, const std::string&, unsigned style) {
+    boxes.push_back(text);
+    return msgbox::DefaultAnswer(style);
+  });
+  std::size_t typed = 0;
+  for (const std::string& page : Framework::PageHost::Names()) {
+    for (int field = 0;; ++field) {
+      Open({page});
+      auto* const window = windows_.front();
+      QApplication::setActiveWindow(window);
+      const auto fields = window->findChildren<QLineEdit*>();
+      if (field >= fields.size()) break;
+      if (!fields[field]->isVisible() || !fields[field]->isEnabled()) continue;
+      fields[field]->setFocus();
+      ASSERT_TRUE(fields[field]->hasFocus()) << fields[field]->objectName().toStdString();
+      QTest::keyClicks(fields[field], QStringLiteral("-7x"));
+      ++typed;
+      session_.reset();
+      EXPECT_EQ(boxes, std::vector<std::string>());
+    }
+  }
+  EXPECT_GT(typed, 20u);
+  SetMessageBoxResponder({});
 }
 
 }  // namespace

@@ -19,7 +19,7 @@
 #include "app/diagnostics.h"
 #include "app/exit_status.h"
 #include "app/wrong_use.h"
-#include "host/gui/slow_tool_tip.h"
+#include "host/gui/program_style.h"
 #include "host/project/ost_command_line_info.h"
 
 namespace {
@@ -63,7 +63,7 @@ void PrepareApplication(QApplication& application) {
   QApplication::setApplicationName(QStringLiteral("sysdef"));
   QApplication::setOrganizationName(QStringLiteral("sysdef"));
   QApplication::setApplicationDisplayName(QStringLiteral("System Definition"));
-  Framework::InstallToolTipDelay(application);
+  Framework::InstallProgramStyle(application);
   // Qt takes the person's locale for everything; numbers in files must not follow it.
   std::setlocale(LC_NUMERIC, "C");
 }

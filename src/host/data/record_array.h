@@ -18,15 +18,26 @@ template <class Record, std::size_t Capacity>
       std::count_if(records.begin(), records.end(), [](const Record& r) { return r.InUse(); }));
 }
 
-/// Moves the record in at the index; those from there on go one place up. False, with nothing
-/// moved, when the record is empty, the library is full, or the index lies behind the first free
-/// place.
+/// Moves the record in at the index; those from there on go one place up, as far as the next free
+/// place. Without one behind it the index is made free from the other side, those before it going
+/// one place down. False, with nothing moved, when the record is empty, the library is full, or the
+/// index is negative or above the number of records in use.
 template <class Record, std::size_t Capacity>
 bool InsertRecord(RecordArray<Record, Capacity>& records, int index, Record& record) {
   const int count = CountInUse(records);
-  if (!record.InUse() || records.back().InUse() || index < 0 || index > count) return false;
-  std::move_backward(records.begin() + index, records.end() - 1, records.end());
-  records[static_cast<std::size_t>(index)] = std::exchange(record, Record());
+  if (!record.InUse() || count == static_cast<int>(Capacity) || index < 0 || index > count) {
+    return false;
+  }
+  const auto place = records.begin() + index;
+  const auto isFree = [](const Record& each) { return !each.InUse(); };
+  const auto above = std::find_if(place, records.end(), isFree);
+  if (above != records.end()) {
+    std::move_backward(place, above, above + 1);
+  } else {
+    const auto below = std::find_if(records.begin(), place, isFree);
+    std::move(below + 1, place + 1, below);
+  }
+  *place = std::exchange(record, Record());
   return true;
 }
 

@@ -13,7 +13,7 @@
 struct SLampRecord {
   std::vector<SpectralPoint> Response;
   double TotalLumens = 0.0;  ///< 0 to 500000
-  std::string Name;          ///< UTF-8, at most 255 bytes
+  std::string Name;          ///< UTF-8, at most 255 characters
   int OpticsFlag = 0;        ///< not 0: the response was measured behind optics
   std::vector<ApertureLumens> LumensVsAperture;
   double LampPower = -1.0;  ///< watt; -1 when it is not known

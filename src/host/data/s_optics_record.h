@@ -11,7 +11,7 @@
 /// One optics description of the device's optics library.
 struct SOpticsRecord {
   std::vector<SpectralPoint> Response;
-  std::string Name;  ///< UTF-8, at most 255 bytes
+  std::string Name;  ///< UTF-8, at most 255 characters
 
   /// A record without a response is a free place of the library.
   [[nodiscard]] bool InUse() const noexcept { return !Response.empty(); }

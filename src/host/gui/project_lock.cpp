@@ -3,6 +3,8 @@
 #include "host/gui/project_lock.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QThread>
 
 namespace Framework {
 
@@ -12,7 +14,23 @@ ProjectLock::ProjectLock(const std::filesystem::path& database)
   lock_.setStaleLockTime(0);
 }
 
-bool ProjectLock::Acquire() { return lock_.isLocked() || lock_.tryLock(0); }
+bool ProjectLock::Acquire() {
+  if (lock_.isLocked() || lock_.tryLock(0)) return true;
+  if (lock_.error() != QLockFile::LockFailedError) return false;
+  if (StaysEmpty()) QFile::remove(path_);
+  return lock_.tryLock(0);
+}
+
+// The file is made and written at once; a program that was killed between the two leaves it empty
+// for good, and nothing in it tells that its process is gone.
+bool ProjectLock::StaysEmpty() const {
+  constexpr int kLooks = 20;
+  for (int look = 0; look < kLooks; ++look) {
+    if (!QFile::exists(path_) || QFileInfo(path_).size() > 0) return false;
+    QThread::msleep(50);
+  }
+  return true;
+}
 
 std::string ProjectLock::Obstacle() const {
   if (lock_.error() != QLockFile::LockFailedError)

@@ -10,7 +10,8 @@ namespace Framework {
 
 /// Says to other programs that this one may write a run-time database: a lock file beside it,
 /// FILE.lock, that names program, process and machine. A lock whose process is gone is taken over;
-/// one of another machine, or a damaged one, stays until a person removes it.
+/// one of another machine, or a damaged one, stays until a person removes it, but an empty one is
+/// taken over after a second.
 class ProjectLock {
  public:
   explicit ProjectLock(const std::filesystem::path& database);
@@ -25,6 +26,8 @@ class ProjectLock {
   bool TakeOver();
 
  private:
+  [[nodiscard]] bool StaysEmpty() const;
+
   QString path_;
   QLockFile lock_;
 };

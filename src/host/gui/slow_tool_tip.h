@@ -2,16 +2,13 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
-class QApplication;
 class QString;
 class QWidget;
 
 namespace Framework {
 
-/// Gives a control a tool tip that stays for 5000 ms.
+/// Gives a control a tool tip that stays for 5000 ms. How long the pointer rests before is the
+/// program's style.
 void SetSlowToolTip(QWidget& control, const QString& text);
-
-/// Sets the program's style, in which a tool tip shows after the pointer rested for 1000 ms.
-void InstallToolTipDelay(QApplication& application);
 
 }  // namespace Framework

@@ -41,6 +41,9 @@ class ToolPropertyPage {
   /// The window with the controls, made at the first call. The page owns it until it is put into
   /// another widget.
   QWidget* Window();
+  /// Destroys the window, if there is one. What is being typed there is not taken any more: nothing
+  /// is stored and nothing asked.
+  void CloseWindow();
   [[nodiscard]] const QString& Title() const noexcept { return title_; }
   [[nodiscard]] const std::string& ToolName() const noexcept { return toolName_; }
   [[nodiscard]] int DialogId() const noexcept { return dialogId_; }

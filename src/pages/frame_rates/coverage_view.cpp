@@ -140,12 +140,8 @@ void CoverageView::paintEvent(QPaintEvent*) {
   DrawMark(painter, kFloorHz, QStringLiteral("floor 55 Hz"), true);
   DrawMark(painter, 60.0, QStringLiteral("60 Hz"), false);
   DrawMark(painter, 120.0, QStringLiteral("3D 120 Hz"), false);
-  if (probeHz_) {
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2, Qt::DotLine));
-    const double x = PixelOf(*probeHz_);
-    painter.drawLine(QPointF(x, PlotArea().top()), QPointF(x, PlotArea().bottom()));
-  }
-  for (int bin = 0; bin < bins; ++bin) DrawLabel(painter, bin);
+  DrawProbe(painter);
+  DrawLabels(painter);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(
       QPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid), hasFocus() ? 2 : 1));
@@ -200,16 +196,37 @@ void CoverageView::DrawBar(QPainter& painter, int bin) const {
   painter.drawRect(selected ? bar.adjusted(1, 1, -1, -1) : bar);
 }
 
-void CoverageView::DrawLabel(QPainter& painter, int bin) const {
-  const QRectF bar = BarOf(bin);
-  const QString text = LabelOf(table_[static_cast<std::size_t>(bin)]);
+void CoverageView::DrawProbe(QPainter& painter) const {
+  if (!probeHz_ || *probeHz_ < kSlowestHz || *probeHz_ > kFastestHz) return;
+  painter.setPen(QPen(palette().color(QPalette::Highlight), 2, Qt::DotLine));
+  const double x = PixelOf(*probeHz_);
+  painter.drawLine(QPointF(x, PlotArea().top()), QPointF(x, PlotArea().bottom()));
+}
+
+void CoverageView::DrawLabels(QPainter& painter) const {
   const QFontMetricsF metrics(font());
-  const QSizeF size(metrics.horizontalAdvance(text) + kGap, metrics.height());
-  const bool upright = size.width() > bar.width();
-  if (upright && (size.height() > bar.width() || size.width() > bar.height())) return;
+  std::vector<QRectF> taken;
+  for (int bin = 0; bin < static_cast<int>(table_.size()); ++bin) {
+    const QRectF bar = BarOf(bin);
+    const QString text = LabelOf(table_[static_cast<std::size_t>(bin)]);
+    QSizeF size(metrics.horizontalAdvance(text) + kGap, metrics.height());
+    if (size.width() > bar.width()) size.transpose();
+    if (size.width() > bar.width() || size.height() > bar.height()) continue;
+    QRectF place({}, size);
+    place.moveCenter(bar.center());
+    if (std::ranges::any_of(taken, [&](const QRectF& other) { return other.intersects(place); }))
+      continue;
+    taken.push_back(place);
+    DrawLabel(painter, place, text);
+  }
+}
+
+void CoverageView::DrawLabel(QPainter& painter, const QRectF& place, const QString& text) const {
+  const bool upright = place.height() > place.width();
   painter.save();
-  painter.translate(bar.center());
+  painter.translate(place.center());
   if (upright) painter.rotate(-90);
+  const QSizeF size = upright ? place.size().transposed() : place.size();
   const QRectF plate({-size.width() / 2, -size.height() / 2}, size);
   // Lines that cross the bar do not cross its name.
   QColor ground = palette().color(QPalette::Base);
@@ -230,7 +247,8 @@ bool CoverageView::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const int bin = BinAt(help->pos());
-    QToolTip::showText(help->globalPos(), bin < 0 ? QString() : TextOf(bin), this);
+    QToolTip::showText(help->globalPos(), bin < 0 ? QString() : TextOf(bin), this, {},
+                       toolTipDuration());
     return true;
   }
   if (event->type() == QEvent::Leave) PointAt(-1);

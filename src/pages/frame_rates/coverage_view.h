@@ -32,7 +32,7 @@ class CoverageView : public QWidget {
   void SelectBins(std::optional<BinSpan> bins);
   /// Bins that are pointed at, here or in the table.
   void PointAtBins(std::optional<BinSpan> bins);
-  /// Marks a source rate (Hz), or none.
+  /// Marks a source rate (Hz), or none. A rate beside the axis has no mark.
   void SetProbe(std::optional<double> rateHz);
 
   /// The bin whose bar is at this place of the widget; -1 when there is none.
@@ -42,7 +42,7 @@ class CoverageView : public QWidget {
   /// What a bin serves and how, in one line.
   [[nodiscard]] QString TextOf(int bin) const;
 
-  [[nodiscard]] QSize sizeHint() const override { return {760, 250}; }
+  [[nodiscard]] QSize sizeHint() const override { return {760, 225}; }
   [[nodiscard]] QSize minimumSizeHint() const override { return {480, 225}; }
 
  signals:
@@ -67,8 +67,10 @@ class CoverageView : public QWidget {
   void DrawLaneName(QPainter& painter, bool internalSync) const;
   void DrawMark(QPainter& painter, double rateHz, const QString& label, bool labelLeft) const;
   void DrawBar(QPainter& painter, int bin) const;
-  /// The name of the bar, lying or standing, where it fits.
-  void DrawLabel(QPainter& painter, int bin) const;
+  /// The names of the bars, lying or standing, where they fit and cover no other.
+  void DrawLabels(QPainter& painter) const;
+  void DrawLabel(QPainter& painter, const QRectF& place, const QString& text) const;
+  void DrawProbe(QPainter& painter) const;
   void PointAt(int bin);
   void Describe();
 

@@ -3,7 +3,7 @@
 #include "pages/frame_rates/sys_def_frame_rates_page.h"
 
 #include <QEvent>
-#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -71,9 +71,13 @@ SysDefFrameRatesPage::SysDefFrameRatesPage()
   SetTitle(QStringLiteral("Frame Rates"));
 }
 
+// The table is left by the pointer when it goes, and calls back then.
+SysDefFrameRatesPage::~SysDefFrameRatesPage() { delete controls_; }
+
 void SysDefFrameRatesPage::CreateControls(QWidget* window) {
   Ui::SysDefFrameRatesPage ui;
   ui.setupUi(window);
+  controls_ = window;
   list_ = ui.ranges;
   grid_ = ui.rates;
   coverage_ = ui.coverage;
@@ -85,9 +89,14 @@ void SysDefFrameRatesPage::CreateControls(QWidget* window) {
   grid_->SetColumns(kColumns);
   grid_->SetRowHeadingsVisible(false);
   grid_->SetReadOnly(true);
+  grid_->setSelectionBehavior(QAbstractItemView::SelectRows);
   grid_->setMouseTracking(true);
   grid_->viewport()->installEventFilter(new LeaveFilter(window, [this] { PointAtRow(-1); }));
+  // Its texts are those of the bars.
+  Framework::SetSlowToolTip(*coverage_, {});
   Framework::SetSlowToolTip(*whyBox_, QStringLiteral("Type a source rate in Hz, such as 47.95."));
+  const int drop = (whyBox_->sizeHint().height() - whyBox_->fontMetrics().height()) / 2;
+  for (QLabel* beside : {ui.whyLabel, ui.explanation}) beside->setContentsMargins(0, drop, 0, 0);
   const auto on = [window](auto* sender, auto signal, auto run) {
     QObject::connect(sender, signal, window, run);
   };
@@ -114,12 +123,14 @@ int SysDefFrameRatesPage::UpdateData(int save) {
   return 1;
 }
 
-// Once for the life of the page; the choice in the data is made to fit what there is to choose.
+// Once for the life of the page, and after a revert: the item that stands for the default cannot be
+// ticked, so nobody could choose it again.
 void SysDefFrameRatesPage::InitialiseList() {
   listInitialised_ = true;
   if (const Framework::Tool* tool = GetTool(); tool && tool->GetProject()) {
     ranges_ = frame_rates::ReadSequenceRanges(*tool->GetProject());
   }
+  if (frame_rates::SelectDefault(ranges_, data_->FrameRates)) Modified();
   for (const frame_rates::SequenceRange& range : ranges_) {
     list_->SetItemText(range.index, QString::fromStdString(frame_rates::ItemText(range)));
     list_->SetItemText(range.index, 1,
@@ -127,7 +138,6 @@ void SysDefFrameRatesPage::InitialiseList() {
                                                                          : QStringLiteral("No"));
     list_->EnableItem(range.index, frame_rates::CanToggle(range));
   }
-  if (frame_rates::SelectDefault(ranges_, data_->FrameRates)) Modified();
 }
 
 void SysDefFrameRatesPage::ShowSelection() {

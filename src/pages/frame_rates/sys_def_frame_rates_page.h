@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <QPointer>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,9 +30,12 @@ struct BinSpan;
 class SysDefFrameRatesPage : public Framework::ToolPropertyPage {
  public:
   SysDefFrameRatesPage();
+  ~SysDefFrameRatesPage() override;
 
   /// The object to edit; it stays the wrapper's.
   void SetData(SysDefFrameRatesPageData* data) noexcept { data_ = data; }
+  /// The choice is made to fit anew.
+  void DropEdits() override { listInitialised_ = false; }
   int UpdateData(int save) override;
 
   [[nodiscard]] static Findings CheckData(const SysDefFrameRatesPageData& data,
@@ -67,6 +71,7 @@ class SysDefFrameRatesPage : public Framework::ToolPropertyPage {
   std::vector<frame_rates::DisplayRow> rows_;  ///< one a row of the grid
   int pinnedRow_ = -1;  ///< the row that is selected while no bar is pointed at
 
+  QPointer<QWidget> controls_;
   checkedlist* list_ = nullptr;
   GUI::CDynamicDataGrid* grid_ = nullptr;
   frame_rates::CoverageView* coverage_ = nullptr;

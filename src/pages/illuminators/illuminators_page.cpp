@@ -2,7 +2,10 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "pages/illuminators/illuminators_page.h"
 
+#include <QFontMetrics>
 #include <QScopedValueRollback>
+#include <QTimer>
+#include <algorithm>
 
 #include "framework/tool_name.h"
 #include "host/calc/helper.h"
@@ -29,6 +32,18 @@ bool HasGlowmatch(const OstProject& project) {
          device.glowmatch == 1;
 }
 
+/// A column's head stands in two lines, broken before its parenthesis, so that the table has room
+/// in a small window.
+void WrapHead(QLabel& head, QGridLayout& table) {
+  const QString text = head.text();
+  const qsizetype end = text.indexOf(QLatin1Char('('));
+  const QFontMetrics metrics(head.font());
+  head.setWordWrap(true);
+  head.setFixedWidth(std::max(metrics.horizontalAdvance(text.left(end)),
+                              metrics.horizontalAdvance(text.mid(end))));
+  table.setAlignment(&head, Qt::AlignRight);
+}
+
 }  // namespace
 
 IlluminatorsPage::IlluminatorsPage()
@@ -42,6 +57,9 @@ void IlluminatorsPage::CreateControls(QWidget* window) {
   glowmatchNote_ = ui.glowmatchNote;
   glowmatchNote_->hide();
   diagram_ = ui.diagram;
+  for (QLabel* head : {ui.enableDelayHead, ui.disableDelayHead, ui.fallMarginHead}) {
+    WrapHead(*head, *ui.table);
+  }
   for (int row = 0; row < kRows; ++row) {
     rows_[static_cast<std::size_t>(row)] = new IlluminatorRow(row, *window, *ui.table);
     ConnectRow(row);
@@ -91,6 +109,12 @@ int IlluminatorsPage::UpdateData(int save) {
   return 1;
 }
 
+int IlluminatorsPage::OnKillActive() {
+  // A click on another page leaves the field first.
+  if (justRefused_) return 0;
+  return UpdateData(1) && UpdateData(0) ? 1 : 0;
+}
+
 // Data to controls.
 
 void IlluminatorsPage::ShowIlluminators() {
@@ -134,6 +158,8 @@ void IlluminatorsPage::Exchange() {
   const int taken = Take();
   ShowIlluminators();
   ShowTimes(taken);
+  justRefused_ = taken < kRows;
+  if (justRefused_) QTimer::singleShot(0, rows_[0], [this] { justRefused_ = false; });
 }
 
 Findings IlluminatorsPage::CheckData(const IlluminatorsPageData& data,

@@ -26,6 +26,8 @@ class IlluminatorsPage : public Framework::ToolPropertyPage {
   /// The object to edit; it stays the wrapper's.
   void SetData(IlluminatorsPageData* data) noexcept { data_ = data; }
   void InitDialog() override;
+  /// What is still being typed is taken; 0 when it is refused.
+  int OnKillActive() override;
   int UpdateData(int save) override;
 
   [[nodiscard]] static Findings CheckData(const IlluminatorsPageData& data,
@@ -50,4 +52,5 @@ class IlluminatorsPage : public Framework::ToolPropertyPage {
   int drawnRow_ = 0;  ///< whose illuminator the diagram shows
   bool initialised_ = false;
   bool taking_ = false;
+  bool justRefused_ = false;  ///< within the event that a field is left by
 };

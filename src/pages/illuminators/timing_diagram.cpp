@@ -15,7 +15,8 @@ namespace {
 
 /// Shares of the picture's height at which its parts stand.
 constexpr double kDriveHigh = 0.20, kDriveLow = 0.36;
-constexpr double kBetween = 0.47;
+/// Of A and of B: in a narrow picture the one's label may run into the other.
+constexpr double kFirst = 0.44, kSecond = 0.52;
 constexpr double kLightHigh = 0.58, kLightLow = 0.74;
 constexpr double kBelow = 0.82;
 constexpr double kScale = 0.94;
@@ -37,7 +38,8 @@ void DrawArrowHead(QPainter& painter, QPointF tip, double direction) {
 }
 
 /// A dimension: a line between two moments, with arrow heads that stand outside where there is no
-/// room between. `label` stands in the middle, or to the right when it is longer than the line.
+/// room between. `label` stands in the middle, or to the right when it is longer than the line;
+/// there it covers what is below.
 void DrawDimension(QPainter& painter, double from, double to, double y, const QString& label) {
   const bool roomy = to - from > 3 * kArrow;
   if (roomy) {
@@ -53,7 +55,9 @@ void DrawDimension(QPainter& painter, double from, double to, double y, const QS
   const bool fits = width + 2 * kArrow < to - from;
   const double left = fits ? (from + to - width) / 2 : to + (roomy ? 1 : 4) * kArrow;
   const double base = fits ? y - metrics.descent() - 2 : y + metrics.capHeight() / 2;
+  painter.setBackgroundMode(fits ? Qt::TransparentMode : Qt::OpaqueMode);
   painter.drawText(QPointF(left, base), label);
+  painter.setBackgroundMode(Qt::TransparentMode);
 }
 
 }  // namespace
@@ -132,18 +136,19 @@ void TimingDiagram::DrawTimes(QPainter& painter, const Frame& frame) const {
   const auto guide = [&](double time, double from, double to) {
     painter.drawLine(QPointF(frame.X(time), frame.Y(from)), QPointF(frame.X(time), frame.Y(to)));
   };
-  guide(0, kDriveLow, kBetween + 0.03);
-  guide(timing.lightOn, kBetween - 0.03, kLightHigh);
-  guide(timing.driveOff, kDriveLow, kBetween + 0.03);
-  guide(timing.lightFalls, kBetween - 0.03, kBelow + 0.03);
+  guide(0, kDriveLow, kFirst + 0.03);
+  guide(timing.lightOn, kFirst - 0.03, kLightHigh);
+  guide(timing.driveOff, kDriveLow, kSecond + 0.03);
+  guide(timing.lightFalls, kSecond - 0.03, kBelow + 0.03);
   guide(timing.dark, kLightLow, kBelow + 0.03);
   painter.setPen(QPen(palette().color(QPalette::Text), 1));
+  painter.setBackground(palette().base());
   const auto label = [](const char* letter, double time) {
     return QLatin1String(letter) + QStringLiteral(" = ") + Text(TimeText(time));
   };
-  DrawDimension(painter, frame.X(0), frame.X(timing.lightOn), frame.Y(kBetween),
+  DrawDimension(painter, frame.X(0), frame.X(timing.lightOn), frame.Y(kFirst),
                 label("A", illuminator_->EnableDelay));
-  DrawDimension(painter, frame.X(timing.driveOff), frame.X(timing.lightFalls), frame.Y(kBetween),
+  DrawDimension(painter, frame.X(timing.driveOff), frame.X(timing.lightFalls), frame.Y(kSecond),
                 label("B", illuminator_->DisableDelay));
   DrawDimension(painter, frame.X(timing.lightFalls), frame.X(timing.dark), frame.Y(kBelow),
                 label("C", illuminator_->FallMargin));

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <limits>
 
+#include "host/gui/slow_tool_tip.h"
 #include "host/text/number_field.h"
 #include "pages/lamp_aging/rules/curve.h"
 #include "platform/text/fill.h"
@@ -82,6 +83,8 @@ AgingCurve::AgingCurve(QWidget* parent) : QWidget(parent) {
   chart_->SetLegendVisible(false);
   probeSlider_->setRange(0, kMaxFeedbackValue);
   GUI::TurnOnlyWithFocus(*probeSlider_);
+  Framework::SetSlowToolTip(*probeBox_,
+                            QStringLiteral("Type a feedback value, or drag the slider."));
   probeBox_->setText(QString::number(probe_));
   Draw();
   connect(probeBox_, &QLineEdit::textChanged, this, &AgingCurve::TakeTypedProbe);
@@ -176,7 +179,7 @@ void AgingCurve::DrawLimits() {
   chart_->AddMarker(Axis::kY, limits_.maxAmplitude);
   const double last = LastFeedback();
   chart_->AddLabel({0.85 * last, limits_.minAmplitude}, LimitText("Minimum", limits_.minAmplitude));
-  chart_->AddLabel({0.15 * last, limits_.maxAmplitude}, LimitText("Maximum", limits_.maxAmplitude));
+  chart_->AddLabel({0.25 * last, limits_.maxAmplitude}, LimitText("Maximum", limits_.maxAmplitude));
 }
 
 void AgingCurve::DrawSelection() {

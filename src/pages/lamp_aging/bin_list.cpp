@@ -6,7 +6,6 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QStyle>
-#include <algorithm>
 
 namespace lamp_aging {
 
@@ -34,34 +33,50 @@ BinList::BinList(QWidget* parent) : QTableWidget(parent) {
   connect(this, &QTableWidget::itemSelectionChanged, this, &BinList::binSelectionChanged);
 }
 
+struct BinList::Column {
+  const char* heading;
+  const char* widestText;
+  Qt::Alignment alignment;
+};
+
+std::span<const BinList::Column> BinList::FeedbackColumns() {
+  static constexpr Column columns[] = {
+      {" Bin#", "XXXBIN#XX", kLeft},
+      {"Lower Limit", "XLower LimitX", kRight},
+      {"Upper Limit", "XUpper LimitX", kRight},
+      {"Avg. Pulse Amplitude Ratio", "XAvg. Pulse Amplitude RatioX", Qt::AlignCenter}};
+  return columns;
+}
+
 void BinList::ShowFeedback(const BinTable& table) {
-  ShowColumns({{" Bin#", "XXXBIN#XX", kLeft},
-               {"Lower Limit", "XLower LimitX", kRight},
-               {"Upper Limit", "XUpper LimitX", kRight},
-               {"Avg. Pulse Amplitude Ratio", "XAvg. Pulse Amplitude RatioX", Qt::AlignCenter}});
+  ShowColumns(FeedbackColumns());
   ShowRows(FeedbackRows(table));
 }
 
 void BinList::ShowNoFeedback(const BinTable& table) {
-  ShowColumns({{" Bin#", "XXXBIN#XX", kLeft},
-               {"Avg. Pulse Amplitude Ratio", "XAvg. Pulse Amplitude RatioX", Qt::AlignCenter}});
+  const std::span<const Column> columns = FeedbackColumns();
+  const Column shown[] = {columns.front(), columns.back()};
+  ShowColumns(shown);
   ShowRows(NoFeedbackRows(table));
 }
 
-void BinList::ShowColumns(std::initializer_list<Column> columns) {
+int BinList::WidthOf(const Column& column) const {
+  return fontMetrics().horizontalAdvance(QString::fromLatin1(column.widestText));
+}
+
+void BinList::ShowColumns(std::span<const Column> columns) {
   setColumnCount(static_cast<int>(columns.size()));
-  int number = 0, width = 0;
+  int number = 0;
   for (const Column& column : columns) {
     auto* heading = new QTableWidgetItem(QString::fromLatin1(column.heading));
     heading->setTextAlignment(column.alignment);
     setHorizontalHeaderItem(number, heading);
-    setColumnWidth(number, fontMetrics().horizontalAdvance(QString::fromLatin1(column.widestText)));
-    width += columnWidth(number);
-    ++number;
+    setColumnWidth(number++, WidthOf(column));
   }
   // Wide enough for the form with more columns, so that nothing moves when the other is shown.
-  const int around = 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  setMinimumWidth(std::max(minimumWidth(), width + around));
+  int width = 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  for (const Column& column : FeedbackColumns()) width += WidthOf(column);
+  setMinimumWidth(width);
 }
 
 template <class Rows>

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <cstddef>
 #include <optional>
+#include <span>
 
 #include "pages/lamp_aging/rules/bin_table.h"
 
@@ -34,12 +35,10 @@ class BinList : public QTableWidget {
   bool viewportEvent(QEvent* event) override;
 
  private:
-  struct Column {
-    const char* heading;
-    const char* widestText;
-    Qt::Alignment alignment;
-  };
-  void ShowColumns(std::initializer_list<Column> columns);
+  struct Column;
+  [[nodiscard]] static std::span<const Column> FeedbackColumns();
+  [[nodiscard]] int WidthOf(const Column& column) const;
+  void ShowColumns(std::span<const Column> columns);
   template <class Rows>
   void ShowRows(const Rows& rows);
   void SelectHovered();

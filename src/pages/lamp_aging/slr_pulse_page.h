@@ -36,6 +36,8 @@ class SlrPulsePage : public Framework::ToolPropertyPage {
   /// The object to edit; it stays the wrapper's.
   void SetData(LampAgingPageData* data) noexcept { data_ = data; }
   void InitDialog() override;
+  /// Without stored tables of a spin factor the page goes on with those that it shows.
+  void DropEdits() override { tables_ = {}; }
   int UpdateData(int save) override;
 
   [[nodiscard]] static Findings CheckData(const LampAgingPageData& data, const OstProject* project);

@@ -3,6 +3,7 @@
 #include "pages/lamp_optics/lamp_optics_page.h"
 
 #include <QScopedValueRollback>
+#include <QTimer>
 
 #include "framework/tool_name.h"
 #include "host/data/lamp_optics_data.h"
@@ -124,6 +125,12 @@ int SysDefLampOpticsPage::UpdateData(int save) {
   // A renaming shows the page again.
   const auto opticsName = optics_->TypedName();
   return RenameLamp(lamps_->TypedName()) && RenameOptics(opticsName) ? 1 : 0;
+}
+
+int SysDefLampOpticsPage::OnKillActive() {
+  // A click on another page leaves the box first.
+  if (justRefused_) return 0;
+  return UpdateData(1) && UpdateData(0) ? 1 : 0;
 }
 
 // Data to controls.
@@ -282,7 +289,9 @@ void SysDefLampOpticsPage::ValueLeft() {
   // A refused box takes the focus back from the other one, which is not left by the person.
   if (!data_ || taking_) return;
   const QScopedValueRollback<bool> rollback(taking_, true);
-  if (TakeValues()) Show();
+  justRefused_ = !TakeValues();
+  if (!justRefused_) return Show();
+  QTimer::singleShot(0, lamps_, [this] { justRefused_ = false; });
 }
 
 void SysDefLampOpticsPage::EditModel() {

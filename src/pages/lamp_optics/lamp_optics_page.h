@@ -32,6 +32,8 @@ class SysDefLampOpticsPage : public Framework::ToolPropertyPage {
   /// The object to edit; it stays the wrapper's.
   void SetData(LampOpticsData* data) noexcept { data_ = data; }
   void InitDialog() override;
+  /// What is still being typed is taken; 0 when it is refused.
+  int OnKillActive() override;
   int UpdateData(int save) override;
 
   [[nodiscard]] static Findings CheckData(const LampOpticsData& data, const OstProject* project);
@@ -80,4 +82,5 @@ class SysDefLampOpticsPage : public Framework::ToolPropertyPage {
   lamp_optics::SpectraChart lampChart_;
   lamp_optics::SpectraChart opticsChart_;
   bool taking_ = false;
+  bool justRefused_ = false;  ///< within the event that a box is left by
 };

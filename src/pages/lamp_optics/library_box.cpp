@@ -16,7 +16,11 @@ LibraryBox::LibraryBox(QComboBox& list, QPushButton& load, QPushButton& remove)
     : QObject(&list), list_(list), load_(load), remove_(remove) {
   GUI::TurnOnlyWithFocus(list_);
   TakeOverEditing();
-  connect(&list_, &QComboBox::activated, this, &LibraryBox::entryChosen);
+  connect(&list_, &QComboBox::activated, this, [this](int entry) {
+    // Its text is now the entry's, not what was typed.
+    typed_ = false;
+    emit entryChosen(entry);
+  });
   connect(&load_, &QPushButton::clicked, this, [this] { emit loadClicked(); });
   connect(&remove_, &QPushButton::clicked, this, [this] { emit removeClicked(); });
 }

@@ -157,6 +157,16 @@ TEST_F(FrameRatesPageTest, AStoredRateThatNoRangeHasEmptiesTheSelection) {
   EXPECT_THAT(Rows(), testing::Contains("69.00 - 76.00 Hz LEV"));
 }
 
+// Its item cannot be ticked: nobody could choose it again.
+TEST_F(FrameRatesPageTest, ARevertToAnEmptySelectionChoosesTheDefaultAgain) {
+  Open(kFour);
+  const auto before = Rows();
+  Ranges().Toggle(0, 0);
+  project_->Session().Pages().Revert(kPage);
+  EXPECT_EQ(Chosen(), "NYNN");
+  EXPECT_EQ(Rows(), before);
+}
+
 TEST_F(FrameRatesPageTest, WithoutASelectionThereIsNothingToShow) {
   Open({kFour[3]});
   EXPECT_EQ(Chosen(), "N");

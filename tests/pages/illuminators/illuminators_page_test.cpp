@@ -153,6 +153,17 @@ TEST(IlluminatorsPage, ARefusedTimeEndsTheExchange) {
   EXPECT_TRUE(page.TakeChanged());
 }
 
+TEST(IlluminatorsPage, LeavingThePageTakesWhatIsBeingTyped) {
+  Page page;
+  auto& shown = page.project.Session().Pages().Open("IlluminatorsPage");
+  page.At(0, "Fall Margin").Type("1");
+  EXPECT_EQ(shown.OnKillActive(), 1);
+  EXPECT_EQ(page.Now().characteristics[0].FallMargin, 0.001) << "typed behind 0.00";
+  page.At(0, "Fall Margin").Type("x");
+  EXPECT_EQ(shown.OnKillActive(), 0);
+  EXPECT_THAT(page.interaction.TakeMessages(), SizeIs(1));
+}
+
 TEST(IlluminatorsPage, TakesNothingThatNobodyEdited) {
   Page page;
   const IlluminatorsPageData before = page.Now();

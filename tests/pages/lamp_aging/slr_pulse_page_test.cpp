@@ -116,6 +116,8 @@ TEST_F(SlrPulsePageTest, ShowsEachBallastTypeInItsForm) {
   EXPECT_EQ(Rows(), "    0  |1.760\n");
   EXPECT_FALSE(At("Add Bin").Enabled());
   EXPECT_FALSE(At("Delete Bin").Enabled());
+  for (const char* hidden : {"Edit Feedback", "Apply Current Values To All Spin Factors"})
+    EXPECT_FALSE(At(hidden).Visible()) << hidden;
   EXPECT_FALSE(Changed());
 
   ChooseFeedback();
@@ -266,6 +268,11 @@ TEST_F(SlrPulsePageTest, WithoutFeedbackOnlyTheAmplitudeChanges) {
   EXPECT_THAT(Told(), ElementsAre("Error, pulse amplitude ratio for Bin#0 exceeds maximum allowed "
                                   "amplitude(=2.250)"));
   EXPECT_FALSE(Changed());
+  change("2");
+  EXPECT_EQ(Rows(), "    0  |2.000\n");
+  project_->Session().Pages().Revert(kPage);
+  EXPECT_EQ(Rows(), "    0  |1.760\n") << "no table is stored: the default again";
+  ClearChanged();
   change("2.25");
   EXPECT_EQ(Rows(), "    0  |2.250\n");
   EXPECT_TRUE(Changed());

@@ -292,6 +292,15 @@ INSTANTIATE_TEST_SUITE_P(All, LampOpticsNames,
                                          Name{"Optics/Name", "dichroic", "dichroic", ""},
                                          Name{"Optics/Name", "Lens 2", "Lens 2", ""}));
 
+TEST(LampOpticsPage, ChoosingAnEntryDropsWhatWasTyped) {
+  Page page;
+  page.Control("Lamp/Name").Type("x");
+  page.Control("Lamp/Name").Choose("Unnamed");
+  page.Control("Lamp/Name").Leave();
+  EXPECT_EQ(page.Now().Lamp.Lamps[1].Name, "");
+  EXPECT_FALSE(page.TakeChanged());
+}
+
 TEST(LampOpticsPage, ANameIsTakenByReturnAndByApplying) {
   Page page;
   page.Control("Optics/Name").Type("1\n");

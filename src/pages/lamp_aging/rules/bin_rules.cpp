@@ -26,6 +26,7 @@ int Upper(const Bin& bin) noexcept { return bin.m_upperBallastVal; }
 std::string ToText(int value) { return std::to_string(value); }
 std::string ToText(std::size_t value) { return std::to_string(value); }
 std::string RatioText(double value) { return platform::FixedText(value, 3); }
+double AsShown(double amplitude) { return platform::LeadingNumber(AmplitudeText(amplitude)); }
 
 // Before the candidate joins: it must reach beyond the bin below and not beyond the one above.
 Fault FaultAgainstPlace(const Bin& candidate, const BinTable& table, int overlap) {
@@ -163,10 +164,11 @@ Bin ProposeBin(const BinTable& table, std::optional<std::size_t> selectedRow,
   const Bin& base = *(selectedRow ? BinAt(table, *selectedRow) : std::prev(table.end()));
   const int lower = selectedRow ? std::max(Upper(base) - overlap, 0) : Upper(base);
   const int width = selectedRow ? 2 * overlap : kProposedWidth;
-  // The base is what the row shows, rounded as it is shown.
-  const double shown = platform::LeadingNumber(AmplitudeText(base.m_avgPulseAmplitude));
+  // The base is what the row shows, rounded as it is shown; so is the sum, whose last binary digits
+  // the dialog would hide and store.
+  const double raised = AsShown(AsShown(base.m_avgPulseAmplitude) + kProposedStep);
   return MakeBin(lower, std::min(lower + width, kMaxFeedbackValue),
-                 std::min(shown + kProposedStep, limits.maxAmplitude));
+                 std::min(raised, limits.maxAmplitude));
 }
 
 Fault AddBin(BinTable& table, const Bin& bin, const Limits& limits) {

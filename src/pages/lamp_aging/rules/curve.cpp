@@ -10,7 +10,6 @@
 #include "platform/text/fill.h"
 
 namespace lamp_aging {
-namespace {}  // namespace
 
 std::vector<CurveStep> CurveSteps(const BinTable& table) {
   std::vector<CurveStep> steps;

@@ -26,9 +26,9 @@ template <class Record>
 void CheckRecord(const Record& record, const std::string& name, const Wording& wording,
                  FindingReport& report) {
   const std::string prefix = wording.prefix;
-  if (record.Name.size() > kMaxNameBytes) {
+  if (CharacterCount(record.Name) > kMaxNameCharacters) {
     report.Error(prefix + "name-length", wording.field,
-                 name + " has a name of more than 255 bytes");
+                 name + " has a name of more than 255 characters");
   }
   const auto fallsBack = [](const SpectralPoint& a, const SpectralPoint& b) {
     return a.Wavelength >= b.Wavelength;

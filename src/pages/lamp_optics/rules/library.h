@@ -52,9 +52,9 @@ struct Renamed {
   bool changed = false;
   std::optional<std::string> refusal;  ///< another record has the name
 };
-/// Gives the current record a name, cut at kMaxNameBytes. Free records take part in the comparison,
-/// so an empty name is refused while there is one, and so is one with characters that cannot be
-/// stored. Without a current record nothing happens.
+/// Gives the current record a name, cut at kMaxNameCharacters. Free records take part in the
+/// comparison, so an empty name is refused while there is one, and so is one with characters that
+/// cannot be stored. Without a current record nothing happens.
 [[nodiscard]] Renamed RenameCurrent(LampData& data, std::string_view typed);
 [[nodiscard]] Renamed RenameCurrent(OpticsData& data, std::string_view typed);
 

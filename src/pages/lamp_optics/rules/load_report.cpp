@@ -28,7 +28,13 @@ void LoadReport::Add(std::size_t line, std::string text) {
   }
 }
 
+void LoadReport::AddAlways(std::size_t line, std::string text) {
+  oddities.push_back({line, std::move(text)});
+}
+
 std::string Quoted(std::string_view text) {
+  const std::size_t begin = std::min(text.find_first_not_of(" \t"), text.size());
+  text = text.substr(begin, text.find_last_not_of(" \t") + 1 - begin);
   constexpr std::size_t kMaxQuoted = 40;
   std::size_t end = std::min(text.size(), kMaxQuoted);
   while (end < text.size() && end > 0 && (text[end] & 0xC0) == 0x80) --end;

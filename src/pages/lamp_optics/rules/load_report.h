@@ -29,10 +29,20 @@ struct LoadReport {
   std::string fault;  ///< why the file was not read to its end; empty when it was
 
   void Add(std::size_t line, std::string text);
+  /// The same for what a file has once at most: it is kept however many there are.
+  void AddAlways(std::size_t line, std::string text);
+};
+
+/// A line of a file, and as it is split.
+struct FileLine {
+  std::size_t number;  ///< from 1
+  std::string_view text;
+  std::string_view first;
+  std::string_view rest;
 };
 
 /// A piece of a file in quotes for a report: at most some 40 bytes of it, control characters as
-/// "?".
+/// "?", without blanks at its ends.
 [[nodiscard]] std::string Quoted(std::string_view text);
 
 /// The report for people: a line with points, range and peak, a line an oddity.

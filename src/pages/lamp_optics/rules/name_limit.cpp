@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "pages/lamp_optics/rules/name_limit.h"
 
+#include <algorithm>
+
 #include "platform/text/utf8.h"
 
 namespace lamp_optics {
@@ -11,7 +13,23 @@ constexpr bool IsStorable(char32_t point) {
   return point == '\t' || (point >= ' ' && point != 0xFFFE && point != 0xFFFF);
 }
 
+/// A UTF-8 character's first byte.
+constexpr bool IsBegin(char byte) { return (byte & 0xC0) != 0x80; }
+
 }  // namespace
+
+std::size_t CharacterCount(std::string_view text) noexcept {
+  return static_cast<std::size_t>(std::ranges::count_if(text, IsBegin));
+}
+
+std::string_view CutName(std::string_view name) noexcept {
+  std::size_t characters = 0;
+  const auto isBeyond = [&characters](char byte) {
+    return IsBegin(byte) && ++characters > kMaxNameCharacters;
+  };
+  const auto end = std::ranges::find_if(name, isBeyond);
+  return name.substr(0, static_cast<std::size_t>(end - name.begin()));
+}
 
 bool DropUnstorable(std::string& name) {
   std::string kept;

@@ -8,16 +8,14 @@
 
 namespace lamp_optics {
 
-/// Bytes that a lamp's or an optics description's name may have.
-inline constexpr std::size_t kMaxNameBytes = 255;
+/// Characters (code points) that a lamp's or an optics description's name may have.
+inline constexpr std::size_t kMaxNameCharacters = 255;
 
-/// The UTF-8 name, or as much of it as has room without a character cut in two.
-[[nodiscard]] constexpr std::string_view CutName(std::string_view name) noexcept {
-  if (name.size() <= kMaxNameBytes) return name;
-  std::size_t end = kMaxNameBytes;
-  while (end > 0 && (name[end] & 0xC0) == 0x80) --end;
-  return name.substr(0, end);
-}
+/// How many characters a UTF-8 text has.
+[[nodiscard]] std::size_t CharacterCount(std::string_view text) noexcept;
+
+/// The UTF-8 name, or its first kMaxNameCharacters.
+[[nodiscard]] std::string_view CutName(std::string_view name) noexcept;
 
 /// Takes the characters out of the name that XML, and so the database, cannot carry. True when
 /// there were any.

@@ -16,25 +16,26 @@ constexpr int kMaxRememberedNm = 1 << 20;
 /// Room for points grows by half, so that growing never holds three times what is there.
 constexpr std::size_t kFirstPoints = 1024;
 
-std::string QuotedLine(std::string_view first, std::string_view rest) {
-  return Quoted(std::string(first).append(" ").append(rest));
+/// Whether the text says the whole number and no more, as "450" and "450.0" do.
+bool IsAll(const leading_number::Field<int>& number, std::string_view text) {
+  if (number.whole) return true;
+  const auto exact = leading_number::LeadingDouble(text);
+  return exact && exact->whole && exact->value == number.value;
 }
 
 }  // namespace
 
-void PointCollector::TakeLine(std::size_t line, std::string_view wavelength,
-                              std::string_view value) {
-  const auto nm = leading_number::LeadingInt(wavelength);
-  const auto number = leading_number::LeadingDouble(value);
-  if (!nm || !number) {
-    report_.Add(line, "no data line, left out: " + QuotedLine(wavelength, value));
+void PointCollector::TakeLine(const FileLine& line) {
+  const auto nm = leading_number::LeadingInt(line.first);
+  const auto value = leading_number::LeadingDouble(line.rest);
+  if (!nm || !value) {
+    report_.Add(line.number, "no data line, left out: " + Quoted(line.text));
     return;
   }
-  if (!nm->whole || !number->whole) {
-    report_.Add(line,
-                "only the beginning of the numbers was taken: " + QuotedLine(wavelength, value));
+  if (!value->whole || !IsAll(*nm, line.first)) {
+    report_.Add(line.number, "only the beginning of the numbers was taken: " + Quoted(line.text));
   }
-  Add(line, {nm->value, number->value});
+  Add(line.number, {nm->value, value->value});
 }
 
 void PointCollector::Add(std::size_t line, SpectralPoint point) {

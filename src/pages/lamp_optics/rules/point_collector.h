@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string_view>
 #include <vector>
 
 #include "host/data/spectral_point.h"
@@ -19,7 +18,7 @@ class PointCollector {
 
   /// One data line: a wavelength and a value, each by its leading number. A line without one of
   /// them is left out. Both are noted, as are wavelengths that do not rise.
-  void TakeLine(std::size_t line, std::string_view wavelength, std::string_view value);
+  void TakeLine(const FileLine& line);
 
  private:
   void Add(std::size_t line, SpectralPoint point);

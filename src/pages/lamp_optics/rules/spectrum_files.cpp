@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "pages/lamp_optics/rules/spectrum_files.h"
 
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -23,45 +24,53 @@ class Reader {
 
   /// Goes to the next line; false at the end.
   bool Next() {
-    std::string_view line;
-    if (!lines_.getNextLine(line)) {
+    if (!lines_.getNextLine(line_)) {
       report_.fault = lines_.fault();
       return false;
     }
-    Parse::stripFirstWord(line, word_, rest_);
+    Parse::stripFirstWord(line_, word_, rest_);
     return true;
   }
   [[nodiscard]] std::string_view Word() const noexcept { return word_; }
 
   void TakeName(std::string& name) {
+    NoteAgain();
     std::string whole(rest_);
     if (DropUnstorable(whole)) Note("characters that cannot be stored are left out of the name");
     name = CutName(whole);
     if (name.size() < whole.size()) {
-      Note("the name is cut after " + std::to_string(name.size()) + " of " +
-           std::to_string(whole.size()) + " bytes");
+      Note("the name is cut after " + std::to_string(kMaxNameCharacters) + " of " +
+           std::to_string(CharacterCount(whole)) + " characters");
     }
   }
 
   void TakeNumber(double& value) { Take(leading_number::LeadingDouble(rest_), value); }
   void TakeInteger(int& value) { Take(leading_number::LeadingInt(rest_), value); }
 
-  /// Gives every line up to the end keyword to `take(line number, first word, rest)`.
+  /// Gives every line up to the end keyword to `take`.
   template <class Take>
   void TakeBlock(std::string_view endKeyword, Take take) {
     while (Next()) {
       if (word_ == endKeyword) return;
-      take(lines_.lineNumber(), word_, rest_);
+      take(FileLine{lines_.lineNumber(), line_, word_, rest_});
     }
-    Note(std::string(endKeyword) + " is missing; its block runs to the end of the file");
+    report_.AddAlways(
+        lines_.lineNumber(),
+        std::string(endKeyword) + " is missing; its block runs to the end of the file");
   }
 
   void NoteUnknown() { Note("unknown keyword " + Quoted(word_)); }
   void Note(std::string text) { report_.Add(lines_.lineNumber(), std::move(text)); }
 
  private:
+  /// Of a value that is given more than once the last one stands.
+  void NoteAgain() {
+    if (!given_.emplace(word_).second) Note(std::string(word_) + " occurs again");
+  }
+
   template <class T>
   void Take(const std::optional<leading_number::Field<T>>& field, T& value) {
+    NoteAgain();
     if (field) value = field->value;
     if (field && field->whole) return;
     Note(std::string(word_) + (field ? ": only the beginning of its text is a number"
@@ -70,20 +79,21 @@ class Reader {
 
   Parse& lines_;
   LoadReport& report_;
+  std::set<std::string, std::less<>> given_;
+  std::string_view line_;
   std::string_view word_;
   std::string_view rest_;
 };
 
-void TakeAperture(LoadReport& report, std::vector<ApertureLumens>& table, std::size_t line,
-                  std::string_view first, std::string_view rest) {
-  const auto aperture = leading_number::LeadingDouble(first);
-  const auto lumens = leading_number::LeadingDouble(rest);
+void TakeAperture(LoadReport& report, std::vector<ApertureLumens>& table, const FileLine& line) {
+  const auto aperture = leading_number::LeadingDouble(line.first);
+  const auto lumens = leading_number::LeadingDouble(line.rest);
   if (!aperture || !lumens) {
-    report.Add(line, "no data line, left out: " + Quoted(first));
+    report.Add(line.number, "no data line, left out: " + Quoted(line.text));
     return;
   }
   if (!aperture->whole || !lumens->whole) {
-    report.Add(line, "only the beginning of the numbers was taken: " + Quoted(first));
+    report.Add(line.number, "only the beginning of the numbers was taken: " + Quoted(line.text));
   }
   table.push_back({aperture->value, lumens->value});
 }
@@ -102,11 +112,10 @@ void TakeLampLine(Reader& reader, PointCollector& points, LampFile& file) {
   } else if (word == "OPTICS_FLAG") {
     reader.TakeInteger(file.record.OpticsFlag);
   } else if (word == "RESPONSE_DATA_START") {
-    reader.TakeBlock("RESPONSE_DATA_END",
-                     [&](auto line, auto first, auto rest) { points.TakeLine(line, first, rest); });
+    reader.TakeBlock("RESPONSE_DATA_END", [&](const FileLine& line) { points.TakeLine(line); });
   } else if (word == "LUMENS_VS_APERTURE_START") {
-    reader.TakeBlock("LUMENS_VS_APERTURE_END", [&](auto line, auto first, auto rest) {
-      TakeAperture(file.report, file.record.LumensVsAperture, line, first, rest);
+    reader.TakeBlock("LUMENS_VS_APERTURE_END", [&](const FileLine& line) {
+      TakeAperture(file.report, file.record.LumensVsAperture, line);
     });
   } else {
     reader.NoteUnknown();
@@ -131,9 +140,7 @@ OpticsFile ReadOptics(Parse& lines) {
     if (reader.Word() == "OPTICS_NAME") {
       reader.TakeName(file.record.Name);
     } else if (reader.Word() == "OPTICS_DATA_START") {
-      reader.TakeBlock("OPTICS_DATA_END", [&](auto line, auto first, auto rest) {
-        points.TakeLine(line, first, rest);
-      });
+      reader.TakeBlock("OPTICS_DATA_END", [&](const FileLine& line) { points.TakeLine(line); });
     } else {
       reader.NoteUnknown();
     }
@@ -147,9 +154,7 @@ RecyclingFile ReadRecycling(Parse& lines) {
   PointCollector points(file.points, file.report);
   while (reader.Next()) {
     if (reader.Word() == "FILTER_DATA_START") {
-      reader.TakeBlock("FILTER_DATA_END", [&](auto line, auto first, auto rest) {
-        points.TakeLine(line, first, rest);
-      });
+      reader.TakeBlock("FILTER_DATA_END", [&](const FileLine& line) { points.TakeLine(line); });
     } else {
       reader.NoteUnknown();
     }

@@ -152,7 +152,7 @@ TEST(ProposeBin, StartsAtTheSelectedOrTheLastRow) {
       << "up to 255, and from the amplitude as it is shown";
   limits = {.maxAmplitude = 1.7, .minOverlap = 3};
   EXPECT_EQ(ProposeBin(kTable, {}, limits).m_avgPulseAmplitude, 1.7);
-  EXPECT_EQ(ProposeBin(kTable, 1, limits), Bin(9, 15, 1.4 + 0.2));
+  EXPECT_EQ(ProposeBin(kTable, 1, limits), Bin(9, 15, 1.6)) << "not 1.5999999999999999";
   EXPECT_EQ(ProposeBin({{0, 2, 1.0}}, 0, limits), Bin(0, 6, 1.2)) << "not below 0";
   EXPECT_EQ(ProposeBin({}, {}, limits), Bin(0, 6, 2.0));
 }

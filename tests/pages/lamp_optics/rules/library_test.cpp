@@ -62,6 +62,25 @@ TEST(LampLibrary, TakesFive) {
   EXPECT_FALSE(lamp_optics::AddLamp(lamps, sixth));
 }
 
+// A database that was written by hand may have free places anywhere.
+TEST(LampLibrary, TakesFiveWhereverThereIsRoom) {
+  for (const std::vector<int>& used : {std::vector{0, 4}, {0, 2, 4}, {3, 4}, {1, 2, 3, 4}}) {
+    LampData lamps;
+    for (const int place : used) {
+      lamps.Lamps[static_cast<std::size_t>(place)] = Lamp(std::to_string(place));
+    }
+    std::vector<std::string> names = ListEntries(lamps);
+    for (int added = 0; lamp_optics::HasRoom(lamps); ++added) {
+      SLampRecord record = Lamp("new");
+      EXPECT_TRUE(lamp_optics::AddLamp(lamps, record));
+      EXPECT_EQ(lamp_optics::CurrentLamp(lamps)->Name, "new");
+      names.push_back("new");
+      EXPECT_THAT(ListEntries(lamps), testing::UnorderedElementsAreArray(names)) << added;
+    }
+    EXPECT_EQ(names.size(), 5u);
+  }
+}
+
 TEST(LampLibrary, RemovingMakesTheOneBeforeCurrent) {
   LampData lamps = Lamps({"1", "2", "3"}).Lamp;
   EXPECT_TRUE(RemoveCurrent(lamps));
@@ -94,12 +113,12 @@ TEST(LampLibrary, RefusesTheNameOfAnotherRecord) {
   EXPECT_EQ(RenameCurrent(optics, "Lens").refusal, "Optics:\"Lens\" already exists");
 }
 
-TEST(LampLibrary, CutsANameAtACharacter) {
+TEST(LampLibrary, CutsANameAfter255Characters) {
   LampData lamps = Lamps({"Xenon"}).Lamp;
-  EXPECT_TRUE(RenameCurrent(lamps, std::string(254, 'x') + "\xC3\xBC").changed);
-  EXPECT_EQ(lamps.Lamps[0].Name, std::string(254, 'x'));
-  EXPECT_TRUE(RenameCurrent(lamps, std::string(253, 'x') + "\xC3\xBC").changed);
-  EXPECT_EQ(lamps.Lamps[0].Name.size(), 255u);
+  const std::string most = std::string(254, 'x') + "\xE2\x82\xAC";
+  EXPECT_TRUE(RenameCurrent(lamps, most).changed);
+  EXPECT_EQ(lamps.Lamps[0].Name, most);
+  EXPECT_FALSE(RenameCurrent(lamps, most + "\xC3\xBC").changed) << "cut, it is the same name";
 }
 
 TEST(LampLibrary, ARecyclingFileWithoutPointsEmptiesTheResponse) {

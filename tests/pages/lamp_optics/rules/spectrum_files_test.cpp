@@ -111,9 +111,10 @@ TEST(SpectrumFiles, AFileThatCannotBeReadHasNoPointsAndAReason) {
 TEST(SpectrumFiles, OdditiesBeyondAHundredAreCounted) {
   std::string text = "RESPONSE_DATA_START\n";
   for (int i = 0; i < 1000; ++i) text += "x y\n";
-  Parse lines(std::make_unique<std::istringstream>(text + "1 1\nRESPONSE_DATA_END\n"));
+  Parse lines(std::make_unique<std::istringstream>(text + "1 1\n"));
   const auto lamp = lamp_optics::ReadLamp(lines);
-  EXPECT_EQ(lamp.report.oddities.size(), 100u);
+  EXPECT_EQ(lamp.report.oddities.size(), 101u);
+  EXPECT_THAT(lamp.report.oddities.back().text, testing::HasSubstr("is missing")) << "kept";
   EXPECT_EQ(lamp.report.furtherOddities, 900u);
   EXPECT_EQ(ReportLines(lamp.report).back(), "and 900 more");
   EXPECT_EQ(lamp.record.Response.size(), 1u);
