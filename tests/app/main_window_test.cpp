@@ -8,13 +8,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QLockFile>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
 
+#include "automation/form.h"
 #include "host/gui/message_box.h"
 #include "host/project/ost_exception.h"
 #include "support/open_project.h"
@@ -46,25 +46,11 @@ class MainWindowTest : public testing::Test {
     auto* pages = window_->findChild<QListWidget*>();
     pages->setCurrentItem(pages->findItems(QLatin1String(title), Qt::MatchExactly).at(0));
   }
-  QLineEdit& Start() {
-    for (auto* box : window_->findChildren<QLineEdit*>()) {
-      if (box->accessibleName() == QLatin1String("Start of 1st Subframe")) return *box;
-    }
-    throw std::runtime_error("no box");
+  automation::Control Start() {
+    return automation::Form(*window_).GetControl("Start of 1st Subframe");
   }
-  void Type(const QString& text) {
-    Start().selectAll();
-    QTest::keyClicks(&Start(), text);
-  }
-  void Press(const QString& text) {
-    for (auto* button : window_->findChildren<QPushButton*>()) {
-      if (button->text().remove(QLatin1Char('&')) == text) {
-        button->click();
-        return;
-      }
-    }
-    throw std::runtime_error("no button");
-  }
+  void Type(const QString& text) { Start().SetText(text); }
+  void Press(const QString& text) { automation::Form(*window_).Press(text); }
   bool Close() {
     QCloseEvent event;
     QApplication::sendEvent(window_.get(), &event);
@@ -86,7 +72,7 @@ TEST_F(MainWindowTest, TheTitleMarksWhatIsNotSaved) {
   EXPECT_TRUE(window_->isWindowModified());
   Press("Revert");
   EXPECT_FALSE(window_->isWindowModified());
-  EXPECT_EQ(Start().text(), "4.00");
+  EXPECT_EQ(Start().Text(), "4.00");
   Type("12.5");
   Press("Apply");
   EXPECT_TRUE(window_->isWindowModified());
@@ -114,7 +100,7 @@ TEST_F(MainWindowTest, ARefusedEntryKeepsTheWindowOpen) {
   Type("400");
   EXPECT_FALSE(Close());
   EXPECT_THAT(boxes_.back(), HasSubstr("Please enter a number between 0 and 360."));
-  EXPECT_EQ(Start().text(), "400");
+  EXPECT_EQ(Start().Text(), "400");
 }
 
 TEST_F(MainWindowTest, AFailedSaveIsToldAndKeepsTheChanges) {
@@ -139,14 +125,14 @@ TEST_F(MainWindowTest, AnotherProgramsChangeIsLoadedOrKeptOut) {
     folder_.Write("runtimedb.xml", text);
   };
   theirs("\"5\"");
-  EXPECT_TRUE(QTest::qWaitFor([this] { return Start().text() == QLatin1String("5.00"); }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Start().Text() == QLatin1String("5.00"); }));
   EXPECT_EQ(boxes_.size(), 1u);
   answer_ = msgbox::kAnswerNo;
   theirs("\"6\"");
   EXPECT_TRUE(QTest::qWaitFor([this] { return boxes_.size() == 2; }));
   QTest::qWait(400);
   EXPECT_EQ(boxes_.size(), 2u) << "the same change was asked about twice";
-  EXPECT_EQ(Start().text(), "5.00");
+  EXPECT_EQ(Start().Text(), "5.00");
   Type("7");
   Press("Save");
   EXPECT_THAT(folder_.Read("runtimedb.xml"), HasSubstr("degrees=\"7\""));
@@ -178,7 +164,7 @@ TEST_F(MainWindowTest, AProjectThatCannotBeOpenedLeavesTheOneShown) {
   EXPECT_THROW(window_->Open((folder_.Path() / "bad.ostproj").string()), OstException);
   EXPECT_THAT(window_->windowTitle().toStdString(), HasSubstr("test"));
   Select("Pixmeld(TM) Control");
-  EXPECT_EQ(Start().text(), "4.00");
+  EXPECT_EQ(Start().Text(), "4.00");
 }
 
 }  // namespace

@@ -16,38 +16,6 @@ namespace {
 using boost::archive::archive_exception;
 using zel::archive::xml_archive_exception;
 
-TEST(ArchiveException, EachCodeHasItsText) {
-  const char* const texts[] = {
-      "uninitialized exception",    "unknown derived exception", "unregistered class",
-      "invalid signature",          "unsupported version",       "pointer conflict",
-      "incompatible native format", "array size too short",      "stream error",
-      "class name too long",        "unregistered void cast",    "programming error"};
-  int code = 0;
-  for (const char* text : texts) {
-    const archive_exception fault(static_cast<archive_exception::exception_code>(code++));
-    EXPECT_STREQ(fault.what(), text);
-  }
-}
-
-TEST(ArchiveException, EachXmlCodeHasItsText) {
-  const char* const texts[] = {
-      "uninitialized exception",    "unknown derived exception", "can't convert data to text",
-      "can't convert text to data", "its own message",           "missing element",
-      "element mismatch",           "missing curnode",           "missing attribute",
-      "programming error"};
-  int code = 0;
-  for (const char* text : texts) {
-    const auto number = static_cast<xml_archive_exception::exception_code>(code++);
-    const xml_archive_exception fault(number, "its own message", "where");
-    EXPECT_STREQ(fault.what(), text);
-    EXPECT_STREQ(fault.where(), "where");
-    const archive_exception& base = fault;
-    EXPECT_EQ(base.code(), archive_exception::other_exception);
-    EXPECT_STREQ(base.what(), text);
-  }
-  EXPECT_STREQ(xml_archive_exception(xml_archive_exception::message_in_exception).what(), "");
-}
-
 /// A library that is loaded while this lives.
 class Library {
  public:
@@ -88,6 +56,7 @@ TEST(ArchiveException, CrossesTheBorderOfALibrary) {
     std::rethrow_exception(kept);
   } catch (const archive_exception& fault) {
     EXPECT_STREQ(fault.what(), "from the library");
+    EXPECT_EQ(fault.code(), archive_exception::other_exception);
     EXPECT_NE(dynamic_cast<const xml_archive_exception*>(&fault), nullptr);
   }
 }

@@ -19,6 +19,7 @@ namespace {
 
 using archive_test::Document;
 using archive_test::TextForm;
+using archive_test::Value;
 using zel::archive::nvp;
 using zel::archive::SerializeArray;
 using zel::archive::xml_iarchive;
@@ -57,6 +58,10 @@ class Chance {
   template <class Record>
   requires requires(Record& record, Chance& chance) { record.Fill(chance); }
   void Fill(Record& record) { record.Fill(*this); }
+  template <class Item>
+  void Fill(Value<Item>& object) {
+    Fill(object.value);
+  }
   template <class Item>
   void Fill(std::vector<Item>& items) {
     items.resize(Below(6));
@@ -106,17 +111,6 @@ struct Record {
   void serialize(Archive& ar, unsigned) {
     ar& nvp("flag", flag) & nvp("small", small) & nvp("large", large);
     ar& nvp("number", number) & nvp("text", text);
-  }
-};
-
-template <class T>
-struct Value {
-  T value{};
-  bool operator==(const Value&) const = default;
-  void Fill(Chance& chance) { chance.Fill(value); }
-  template <class Archive>
-  void serialize(Archive& ar, unsigned) {
-    ar& nvp("value", value);
   }
 };
 

@@ -2,20 +2,21 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "archive/export.h"
 #include "archive/support/round_trip.h"
 #include "archive/xml_archive_exception.h"
+#include "support/fault_of.h"
 
 namespace {
 
 using archive_test::Read;
 using archive_test::Written;
+template <class T>
+using One = archive_test::Value<T>;
 using boost::archive::archive_exception;
 using zel::archive::class_export;
 using zel::archive::export_registry;
@@ -25,15 +26,6 @@ namespace flags = zel::archive::flags;
 
 constexpr std::uint32_t kFull = flags::kNoRoot;
 constexpr std::uint32_t kFullLong = flags::kNoRoot | flags::kLongNames;
-
-std::string Fault(const std::function<void()>& body) {
-  try {
-    body();
-  } catch (const archive_exception& fault) {
-    return fault.what();
-  }
-  return "nothing";
-}
 
 struct Node {
   int id = 0;
@@ -101,22 +93,14 @@ struct Drawing {
   }
 };
 
-/// An object by value, and a pointer to it.
+/// An object by value, and a pointer to it before or behind it.
 struct Member {
   Node node;
-  Node* same = nullptr;
+  Node* before = nullptr;
+  Node* behind = nullptr;
   template <class Archive>
   void serialize(Archive& ar, unsigned) {
-    ar& nvp("node", node) & nvp("same", same);
-  }
-};
-
-struct PointerFirst {
-  Node node;
-  Node* same = nullptr;
-  template <class Archive>
-  void serialize(Archive& ar, unsigned) {
-    ar& nvp("same", same) & nvp("node", node);
+    ar& nvp("before", before) & nvp("node", node) & nvp("behind", behind);
   }
 };
 
@@ -132,23 +116,15 @@ struct Untracked {
 struct Always {
   static constexpr tracking_type tracking = tracking_type::track_always;
   int value = 5;
-  bool operator<(const Always& other) const { return value < other.value; }
   template <class Archive>
   void serialize(Archive& ar, unsigned) {
     ar& nvp("value", value);
   }
 };
 
-template <class T>
-struct One {
-  T value{};
-  template <class Archive>
-  void serialize(Archive& ar, unsigned) {
-    ar& nvp("value", value);
-  }
-};
+std::string Fault(auto&& body) { return test::FaultOf<archive_exception>(body); }
 
-TEST(PointerGraph, IdsFollowTheFirstAppearance) {
+TEST(PointerGraph, IdsFollowTheFirstAppearanceAndLeadBack) {
   Node nodes[3] = {{10, &nodes[1]}, {11, &nodes[2]}, {12, &nodes[0]}};
   Ring ring{&nodes[0], &nodes[2]};
   EXPECT_EQ(Written(ring, "R", kFull),
@@ -158,26 +134,18 @@ TEST(PointerGraph, IdsFollowTheFirstAppearance) {
             "<next clsref=\"1\" objid=\"2\"><id>12</id>"
             "<next clsref=\"1\" objref=\"0\"/></next></next></first>"
             "<last clsref=\"1\" objref=\"2\"/></R>");
-  Node self{7, nullptr};
-  self.next = &self;
-  EXPECT_EQ(Written(self, "S", kFullLong),
-            "<S class_id=\"0\" tracking_level=\"1\" version=\"0\" object_id=\"_0\"><id>7</id>"
-            "<next class_id_reference=\"0\" object_id_reference=\"_0\"/></S>");
-}
-
-TEST(PointerGraph, ARingReadsBackAsARing) {
-  Node nodes[3] = {{10, &nodes[1]}, {11, &nodes[2]}, {12, &nodes[0]}};
-  Ring ring{&nodes[0], &nodes[2]};
   for (const std::uint32_t bits : {kFull, kFullLong}) {
     Ring read;
     Read(Written(ring, "R", bits), read, "R", bits);
-    const std::unique_ptr<Node> first(read.first);
-    const std::unique_ptr<Node> second(first->next);
-    const std::unique_ptr<Node> third(second->next);
+    const std::unique_ptr<Node> first(read.first), second(first->next), third(second->next);
     EXPECT_EQ(third->next, first.get());
     EXPECT_EQ(read.last, third.get());
     EXPECT_EQ(first->id * 10000 + second->id * 100 + third->id, 101112);
   }
+  Node self{7, &self};
+  EXPECT_EQ(Written(self, "S", kFullLong),
+            "<S class_id=\"0\" tracking_level=\"1\" version=\"0\" object_id=\"_0\"><id>7</id>"
+            "<next class_id_reference=\"0\" object_id_reference=\"_0\"/></S>");
 }
 
 TEST(PointerGraph, SharedObjectsAndTheirClassesReadBack) {
@@ -210,6 +178,8 @@ TEST(PointerGraph, ClassNamesAreWrittenForPolymorphicClasses) {
             "<value clsid=\"1\" clsnm=\"Circle\" trklvl=\"1\" version=\"4\" objid=\"0\">"
             "<base clsid=\"2\" trklvl=\"1\" version=\"0\" objid=\"1\"><name/></base>"
             "<radius>0</radius></value></O>");
+  EXPECT_NE(Written(one, "O", kFullLong).find("<value class_id=\"1\" class_name=\"Circle\" "),
+            std::string::npos);
   one.value = nullptr;
   EXPECT_EQ(Written(one, "O", kFull),
             "<O clsid=\"0\" trklvl=\"0\" version=\"0\"><value clsid=\"-1\"/></O>");
@@ -217,18 +187,16 @@ TEST(PointerGraph, ClassNamesAreWrittenForPolymorphicClasses) {
   EXPECT_EQ(one.value, nullptr);
 }
 
-TEST(PointerGraph, APointerCanReferToAnObjectHeldByValue) {
+TEST(PointerGraph, APointerCanReferToAnObjectHeldByValueBeforeIt) {
   Member member;
   member.node.id = 4;
-  member.same = &member.node;
+  member.behind = &member.node;
   Member read;
   Read(Written(member, "M", kFull), read, "M", kFull);
-  EXPECT_EQ(read.same, &read.node);
+  EXPECT_EQ(read.behind, &read.node);
   EXPECT_EQ(read.node.id, 4);
-
-  PointerFirst other;
-  other.same = &other.node;
-  EXPECT_EQ(Fault([&] { Written(other, "P", kFull); }), "pointer conflict");
+  member.before = &member.node;
+  EXPECT_EQ(Fault([&] { Written(member, "M", kFull); }), "pointer conflict");
 }
 
 TEST(PointerGraph, TrackingFollowsTheClass) {
@@ -261,11 +229,6 @@ TEST(PointerGraph, CollectionsCarryClassInformationToo) {
   One<std::vector<Always>> read;
   Read(text, read, "L", kFull);
   EXPECT_EQ(Written(read, "L", kFull), text);
-
-  One<std::set<Always>> set{{{1}, {2}}};
-  One<std::set<Always>> readSet;
-  Read(Written(set, "L", kFull), readSet, "L", kFull);
-  EXPECT_EQ(Written(readSet, "L", kFull), Written(set, "L", kFull));
 }
 
 TEST(PointerGraph, WithoutClassInformationEachPointerHoldsItsObject) {
@@ -309,23 +272,29 @@ TEST(PointerGraph, DamagedClassInformationIsRefused) {
   };
   const std::string circle = "clsid=\"1\" clsnm=\"Circle\" trklvl=\"1\" version=\"4\" objid=\"0\"";
   const std::string shape = "clsid=\"2\" clsnm=\"Shape\" trklvl=\"1\" version=\"0\" objid=\"1\"";
-  EXPECT_EQ(fault(circle, "<right clsref=\"1\" objref=\"0\"/>"), "nothing");
-  EXPECT_EQ(fault("", ""), "missing attribute");
-  EXPECT_EQ(fault("clsref=\"7\"", ""), "unregistered class");
-  EXPECT_EQ(fault("clsid=\"1\" clsnm=\"Nobody\"", ""), "unregistered class");
-  EXPECT_EQ(fault("clsid=\"1\" clsnm=\"" + std::string(128, 'k') + "\"", ""),
-            "class name too long");
-  EXPECT_EQ(fault("clsid=\"x\"", ""), "can't convert text to data");
-  EXPECT_EQ(fault("clsid=\"1\" clsnm=\"Circle\" trklvl=\"1\" version=\"-4\" objid=\"0\"", ""),
-            "can't convert text to data");
-  EXPECT_EQ(fault("clsid=\"1\" clsnm=\"Circle\" trklvl=\"1\" version=\"4\"", ""),
-            "missing attribute");
-  EXPECT_EQ(fault(shape, "<right clsref=\"2\" objref=\"1\"/>"), "unregistered void cast");
-  EXPECT_EQ(fault(circle, "<right clsref=\"1\" objref=\"9\"/>"), "missing element");
-  EXPECT_EQ(fault(circle, "<right clsref=\"1\" objid=\"0\"/>"), "pointer conflict");
-  EXPECT_EQ(fault(circle, "<own clsref=\"1\" objref=\"0\"/>"), "pointer conflict");
-  EXPECT_EQ(fault(shape, "<right clsref=\"2\" objid=\"5\"/>"), "unregistered void cast");
-  EXPECT_EQ(fault("clsref=\"0\"", ""), "unregistered class");  // nothing points to a drawing
+  const struct {
+    std::string left, rest;
+    const char* fault;
+  } cases[] = {
+      {circle, "<right clsref=\"1\" objref=\"0\"/>", "no fault"},
+      {"", "", "missing attribute"},
+      {"clsref=\"7\"", "", "unregistered class"},
+      {"clsref=\"0\"", "", "unregistered class"},  // nothing points to a drawing
+      {"clsid=\"1\" clsnm=\"Nobody\"", "", "unregistered class"},
+      {"clsid=\"1\" clsnm=\"" + std::string(128, 'k') + "\"", "", "class name too long"},
+      {"clsid=\"x\"", "", "can't convert text to data"},
+      {"clsid=\"1\" clsnm=\"Circle\" trklvl=\"1\" version=\"-4\" objid=\"0\"", "",
+       "can't convert text to data"},
+      {"clsid=\"1\" clsnm=\"Circle\" trklvl=\"1\" version=\"4\"", "", "missing attribute"},
+      {shape, "<right clsref=\"2\" objref=\"1\"/>", "unregistered void cast"},
+      {shape, "<right clsref=\"2\" objid=\"5\"/>", "unregistered void cast"},
+      {circle, "<right clsref=\"1\" objref=\"9\"/>", "missing element"},
+      {circle, "<right clsref=\"1\" objid=\"0\"/>", "pointer conflict"},
+      {circle, "<own clsref=\"1\" objref=\"0\"/>", "pointer conflict"},
+  };
+  for (const auto& each : cases) {
+    EXPECT_EQ(fault(each.left, each.rest), each.fault) << each.left << each.rest;
+  }
 }
 
 TEST(PointerGraph, AFailedLoadLeaksNothing) {
@@ -339,6 +308,15 @@ TEST(PointerGraph, AFailedLoadLeaksNothing) {
   EXPECT_THROW(archive >> nvp("R", read), archive_exception);
   archive.delete_created_pointers();
 
+  Member member;
+  zel::archive::xml_iarchive other(
+      archive_test::Document::Parse(
+          "<M clsid=\"0\" trklvl=\"0\" version=\"0\"><before clsid=\"1\" trklvl=\"1\" "
+          "version=\"0\" objid=\"0\"/><node objref=\"0\"/></M>"),
+      kFull | flags::kTolerateMissing);
+  EXPECT_EQ(Fault([&] { other >> nvp("M", member); }), "pointer conflict") << "held by value";
+  other.delete_created_pointers();
+
   One<std::unique_ptr<Circle>> unique;
   EXPECT_THROW(Read("<O><value><radius>x</radius></value></O>", unique, "O"), archive_exception);
   One<std::shared_ptr<Circle>> shared;
@@ -346,20 +324,20 @@ TEST(PointerGraph, AFailedLoadLeaksNothing) {
 }
 
 TEST(ExportRegistry, KeepsTheOrderAndForgetsWhatIsUnloaded) {
+  struct First : Untracked {};
+  struct Second : Untracked {};
   export_registry& registry = export_registry::instance();
   const std::size_t before = registry.classes().size();
   {
-    const class_export<Node> node{"Node"};
-    const class_export<Ring> ring{"Ring"};
+    const class_export<First> first{"First"};
+    const class_export<Second> second{"Second"};
     ASSERT_EQ(registry.classes().size(), before + 2);
-    EXPECT_STREQ(registry.classes()[before].type->key(), "Node");
-    EXPECT_STREQ(registry.classes()[before + 1].type->key(), "Ring");
-    EXPECT_EQ(registry.find_key("Ring"), &registry.classes()[before + 1]);
-    EXPECT_EQ(registry.find(typeid(Node))->output->serializer().version(), 0u);
-    EXPECT_EQ(registry.find(typeid(Node))->input->serializer().type().type(), typeid(Node));
+    EXPECT_STREQ(registry.classes()[before].type->key(), "First");
+    EXPECT_EQ(registry.find_key("Second"), &registry.classes()[before + 1]);
+    EXPECT_EQ(registry.find(typeid(First))->input->serializer().type().type(), typeid(First));
   }
   EXPECT_EQ(registry.classes().size(), before);
-  EXPECT_EQ(registry.find_key("Ring"), nullptr);
+  EXPECT_EQ(registry.find_key("Second"), nullptr);
   EXPECT_EQ(registry.find_key("Shape")->type->type(), typeid(Shape));
 }
 

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,6 +12,7 @@
 #include "archive/serialize_array.h"
 #include "archive/support/round_trip.h"
 #include "archive/xml_archive_exception.h"
+#include "support/fault_of.h"
 
 namespace {
 
@@ -29,29 +29,12 @@ namespace flags = zel::archive::flags;
 
 constexpr std::uint32_t kStrict = flags::kPageTransfer & ~flags::kTolerateMissing;
 
-/// Runs the body and gives back the text of the exception it ends with.
-std::string Fault(const std::function<void()>& body) {
-  try {
-    body();
-  } catch (const archive_exception& fault) {
-    return fault.what();
-  }
-  return "nothing";
-}
-
-template <class T>
-struct Holder {
-  T value{};
-  template <class Archive>
-  void serialize(Archive& ar, unsigned) {
-    ar& nvp("value", value);
-  }
-};
+std::string Fault(auto&& body) { return test::FaultOf<archive_exception>(body); }
 
 /// What the content of an element "value" is read as.
 template <class T>
 T ReadValue(const std::string& content, T before = T()) {
-  return ReadContent("<value>" + content + "</value>", Holder<T>{before}).value;
+  return ReadContent("<value>" + content + "</value>", archive_test::Value<T>{before}).value;
 }
 
 struct Inner {
@@ -84,46 +67,39 @@ TEST(XmlIarchive, MissingElementsKeepTheirValues) {
   EXPECT_EQ(outer, Outer());
 }
 
-TEST(XmlIarchive, MembersAreFoundInAnyOrder) {
+TEST(XmlIarchive, MembersAreFoundInAnyOrderByTheirWholeNames) {
   EXPECT_EQ(ReadContent<Outer>("<list><item><b>4</b><a>3</a></item><count>1</count></list>"
                                "<!-- no member --><other/>text<text>T</text>"
                                "<inner><b>6</b><a>5</a></inner>"),
             (Outer{{5, 6}, "T", {{3, 4}}}));
-}
-
-TEST(XmlIarchive, NamesMatchWholeWithoutTheirPrefix) {
   EXPECT_EQ(ReadContent<Inner>("<p:a xmlns:p=\"urn:x\">5</p:a><B>6</B><bb>7</bb>"), (Inner{5, 2}));
 }
 
-TEST(XmlIarchive, EqualNamesAreReadInDocumentOrder) {
+TEST(XmlIarchive, EqualNamesAreReadInDocumentOrderAndWrapAround) {
   using Numbers = std::vector<int>;
-  EXPECT_EQ(ReadValue<Numbers>("<count>3</count><item>1</item><item>2</item><item>3</item>"),
-            (Numbers{1, 2, 3}));
-  EXPECT_EQ(ReadValue<Numbers>("<item>1</item>", {7}), Numbers());
-  EXPECT_EQ(ReadValue<Numbers>("<count>2</count><item>1</item><item>2</item><item>3</item>"),
-            (Numbers{1, 2}));
-}
-
-TEST(XmlIarchive, EntriesBeyondTheElementsWrapAround) {
-  using Numbers = std::vector<int>;
-  EXPECT_EQ(ReadValue<Numbers>("<count>5</count><item>1</item><item>2</item>"),
-            (Numbers{1, 2, 1, 2, 1}));
-  EXPECT_EQ(ReadValue<Numbers>("<count>3</count><item>1</item>"), (Numbers{1, 0, 0}));
+  const std::pair<const char*, Numbers> cases[] = {
+      {"<count>3</count><item>1</item><item>2</item><item>3</item>", {1, 2, 3}},
+      {"<item>1</item>", {}},
+      {"<count>2</count><item>1</item><item>2</item><item>3</item>", {1, 2}},
+      {"<count>5</count><item>1</item><item>2</item>", {1, 2, 1, 2, 1}},
+      {"<count>3</count><item>1</item>", {1, 0, 0}}};
+  for (const auto& [content, read] : cases) {
+    EXPECT_EQ(ReadValue<Numbers>(content, {7}), read) << content;
+  }
 }
 
 TEST(XmlIarchive, AForgedCountIsRefused) {
-  const std::string text = "can't convert text to data";
-  const auto read = [](const std::string& content) {
-    return Fault([&] { ReadValue<std::vector<std::vector<std::string>>>(content); });
-  };
   const std::string item = "<item><count>30000</count><item>x</item><item>y</item></item>";
-  EXPECT_EQ(read("<count>4000000000</count><item/>"), text);
-  EXPECT_EQ(read("<count>18446744073709551615</count><item/><item/>"), text);
-  EXPECT_EQ(read("<count>30000</count>" + item + item), text);
-  EXPECT_EQ(read("<count>20000</count><item><count>1</count><item>" + std::string(100'000, 'x') +
-                 "</item></item><item/>"),
-            text);
-  EXPECT_EQ(read("<count>-1</count>"), text);
+  for (const std::string& content :
+       {std::string("<count>4000000000</count><item/>"),
+        std::string("<count>18446744073709551615</count><item/><item/>"),
+        "<count>30000</count>" + item + item,
+        "<count>20000</count><item><count>1</count><item>" + std::string(100'000, 'x') +
+            "</item></item><item/>",
+        std::string("<count>-1</count>")}) {
+    EXPECT_EQ(Fault([&] { ReadValue<std::vector<std::vector<std::string>>>(content); }),
+              "can't convert text to data");
+  }
 }
 
 TEST(XmlIarchive, FixedArraysTakeWhatFits) {
@@ -172,32 +148,29 @@ TEST(XmlIarchive, NumbersAreCheckedAgainstTheirType) {
   EXPECT_EQ(ReadValue<char>("65"), 'A');
   EXPECT_EQ(ReadValue<bool>("", true), false);
   EXPECT_EQ(ReadValue<double>("", 5), 0);
-  const std::string text = "can't convert text to data";
-  EXPECT_EQ(Fault([] { ReadValue<signed char>("128"); }), text);
-  EXPECT_EQ(Fault([] { ReadValue<unsigned char>("-1"); }), text);
-  EXPECT_EQ(Fault([] { ReadValue<short>("32768"); }), text);
-  EXPECT_EQ(Fault([] { ReadValue<int>(""); }), text);
-  EXPECT_EQ(Fault([] { ReadValue<bool>("2"); }), text);
-  EXPECT_EQ(Fault([] { ReadValue<double>("1.5x"); }), text);
+  void (*const wrong[])() = {
+      [] { ReadValue<signed char>("128"); }, [] { ReadValue<unsigned char>("-1"); },
+      [] { ReadValue<short>("32768"); },     [] { ReadValue<int>(""); },
+      [] { ReadValue<bool>("2"); },          [] { ReadValue<double>("1.5x"); }};
+  for (const auto& read : wrong) EXPECT_EQ(Fault(read), "can't convert text to data");
 }
 
 TEST(XmlIarchive, AFaultSaysWhere) {
   Outer outer;
-  try {
-    Read("<Inputs><list><count>1</count><item><a>x1</a></item></list></Inputs>", outer);
-    FAIL();
-  } catch (const xml_archive_exception& fault) {
-    EXPECT_EQ(fault.code(), xml_archive_exception::cannot_convert_text_to_data);
-    EXPECT_STREQ(fault.where(), "Inputs/list/item/a = x1");
-  }
-  try {
-    Read("<Inputs><inner><a>5</a></inner></Inputs>", outer, "Inputs", kStrict);
-    FAIL();
-  } catch (const xml_archive_exception& fault) {
-    EXPECT_EQ(fault.code(), xml_archive_exception::missing_element);
-    EXPECT_STREQ(fault.where(), "Inputs/inner/b");
-    EXPECT_EQ(outer.inner.a, 5);  // what came before the fault is changed
-  }
+  const auto fault = [&](const char* text, std::uint32_t bits) {
+    try {
+      Read(text, outer, "Inputs", bits);
+    } catch (const xml_archive_exception& error) {
+      return std::string(error.what()) + " at " + error.where();
+    }
+    return std::string("no fault");
+  };
+  EXPECT_EQ(fault("<Inputs><list><count>1</count><item><a>x1</a></item></list></Inputs>",
+                  flags::kPageTransfer),
+            "can't convert text to data at Inputs/list/item/a = x1");
+  EXPECT_EQ(fault("<Inputs><inner><a>5</a></inner></Inputs>", kStrict),
+            "missing element at Inputs/inner/b");
+  EXPECT_EQ(outer.inner.a, 5) << "what came before the fault is changed";
 }
 
 TEST(XmlIarchive, EachMisuseHasItsText) {

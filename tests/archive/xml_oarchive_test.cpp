@@ -4,13 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "archive/serialize_array.h"
 #include "archive/support/round_trip.h"
 #include "archive/xml_archive_exception.h"
 #include "platform/xml/xml_error.h"
+#include "support/fault_of.h"
 
 namespace {
 
@@ -18,7 +20,6 @@ using archive_test::Document;
 using archive_test::TextForm;
 using archive_test::Written;
 using platform::xml::XmlError;
-using zel::archive::class_info;
 using zel::archive::nvp;
 using zel::archive::xml_archive_exception;
 using zel::archive::xml_oarchive;
@@ -28,7 +29,8 @@ struct Leaf {
   static constexpr unsigned class_version = 2;
   int index = 7;
   template <class Archive>
-  void serialize(Archive& ar, unsigned) {
+  void serialize(Archive& ar, unsigned version) {
+    EXPECT_EQ(version, class_version);
     ar& nvp("index", index);
   }
 };
@@ -63,6 +65,20 @@ struct Numbers {
   }
 };
 
+struct Collections {
+  std::vector<bool> flags{true, false};
+  std::set<std::string> names{"b", "a"};
+  std::vector<std::vector<double>> nested{{0.1, 2}, {}};
+  short plain[3] = {1, 2, 3};
+  bool allowed[2] = {true};
+  template <class Archive>
+  void serialize(Archive& ar, unsigned) {
+    zel::archive::SerializeArray<bool, short, 2> wrapped(allowed);
+    ar& nvp("flags", flags) & nvp("names", names) & nvp("nested", nested) & nvp("plain", plain);
+    ar& nvp("allowed", wrapped);
+  }
+};
+
 /// What a test body writes with an archive of those flags.
 template <class Body>
 std::string Told(std::uint32_t bits, Body body) {
@@ -80,6 +96,17 @@ TEST(XmlOarchive, WritesEveryKindOfValue) {
             "<huge>18446744073709551615</huge><color>1</color><zero>0</zero>"
             "<large>1.0000000000000001e+300</large><none><count>0</count></none><empty/>"
             "<marked>&lt;&amp;&gt;\"' \t&#13;\n \xC3\xA9</marked></N>");
+}
+
+TEST(XmlOarchive, CollectionsAreCountAndItems) {
+  Collections collections;
+  EXPECT_EQ(Written(collections, "C"),
+            "<C><flags><count>2</count><item>1</item><item>0</item></flags>"
+            "<names><count>2</count><item>a</item><item>b</item></names>"
+            "<nested><count>2</count><item><count>2</count><item>0.10000000000000001</item>"
+            "<item>2</item></item><item><count>0</count></item></nested>"
+            "<plain><count>3</count><item>1</item><item>2</item><item>3</item></plain>"
+            "<allowed><count>2</count><item>1</item><item>0</item></allowed></C>");
 }
 
 TEST(XmlOarchive, RootAndClassInformationFollowTheFlags) {
@@ -101,26 +128,6 @@ TEST(XmlOarchive, RootAndClassInformationFollowTheFlags) {
             "<P class_id=\"0\" tracking_level=\"0\" version=\"0\">"
             "<first class_id=\"1\" tracking_level=\"0\" version=\"2\"><index>7</index></first>"
             "<second><index>7</index></second></P>");
-}
-
-TEST(XmlOarchive, ClassInformationHasItsNameInEachNaming) {
-  const auto all = [](xml_oarchive& archive) {
-    archive.save_start("e");
-    for (const class_info info :
-         {class_info::class_id, class_info::class_id_reference, class_info::object_id,
-          class_info::object_id_reference, class_info::tracking_level, class_info::version}) {
-      archive.save_info(info, 4);
-    }
-    archive.save_class_name("Key");
-    archive.save_end("e");
-  };
-  EXPECT_EQ(Told(flags::kNoRoot, all),
-            "<e clsid=\"4\" clsref=\"4\" objid=\"4\" objref=\"4\" trklvl=\"4\" version=\"4\" "
-            "clsnm=\"Key\"/>");
-  EXPECT_EQ(Told(flags::kNoRoot | flags::kLongNames, all),
-            "<e class_id=\"4\" class_id_reference=\"4\" object_id=\"_4\" "
-            "object_id_reference=\"_4\" tracking_level=\"4\" version=\"4\" class_name=\"Key\"/>");
-  EXPECT_EQ(Told(flags::kPageTransfer, all), "<e/>");
 }
 
 TEST(XmlOarchive, AValueCanBecomeAnAttribute) {
@@ -186,10 +193,11 @@ TEST(XmlOarchive, TheTreesOwnFaultsAreXmlErrors) {
   EXPECT_THROW(xml_oarchive(document, flags::kPageTransfer), XmlError);
 }
 
-TEST(XmlOarchive, TextIsRefusedAsAnAttributeToo) {
-  const std::string bad = "\x02";
+TEST(XmlOarchive, TextThatXmlCannotCarryIsRefusedWhole) {
   const std::string tooLong(10'000'001, 'x');
-  for (const std::string& text : {bad, tooLong}) {
+  for (const std::string& text :
+       {std::string("a\x01"), std::string("\xff"), std::string("\xed\xa0\x80"),
+        std::string("\xef\xbf\xbf"), tooLong}) {
     Document document;
     xml_oarchive archive(document, flags::kPageTransfer);
     archive.save_start("e");
@@ -200,6 +208,17 @@ TEST(XmlOarchive, TextIsRefusedAsAnAttributeToo) {
     archive.Finish();
     EXPECT_EQ(document.ToText(TextForm::kBare), "<e/>");
   }
+  Document document;
+  xml_oarchive archive(document, flags::kPageTransfer);
+  const std::vector<std::string> texts{"good", "a\x01"};
+  try {
+    archive << nvp("texts", texts);
+    FAIL();
+  } catch (const xml_archive_exception& fault) {
+    EXPECT_STREQ(fault.what(), "can't convert data to text");
+    EXPECT_STREQ(fault.where(), "texts/item = a\x01");
+  }
+  EXPECT_EQ(document.ToText(TextForm::kBare), "<texts><count>2</count><item>good</item></texts>");
 }
 
 TEST(XmlOarchive, StopsWhereNoReaderWouldFollow) {
@@ -208,12 +227,8 @@ TEST(XmlOarchive, StopsWhereNoReaderWouldFollow) {
   for (int depth = 0; depth < 256; ++depth) archive.save_start("e");
   archive.save_text("x");
   EXPECT_NO_THROW(Document::Parse(document.ToText(TextForm::kBare)));
-  try {
-    archive.save_start("e");
-    FAIL();
-  } catch (const xml_archive_exception& fault) {
-    EXPECT_STREQ(fault.what(), "elements nested deeper than 256");
-  }
+  EXPECT_EQ(test::FaultOf<xml_archive_exception>([&] { archive.save_start("e"); }),
+            "elements nested deeper than 256");
 }
 
 }  // namespace

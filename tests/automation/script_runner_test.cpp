@@ -164,13 +164,8 @@ TEST_F(ScriptRunnerTest, MovesDataInAndOut) {
             "24 <ModuleOutputs><rate>24</rate></ModuleOutputs>\n");
 }
 
-struct Fault {
-  const char* script;
-  const char* error;
-};
-
 TEST_F(ScriptRunnerTest, NamesTheLineOfWhatGoesWrong) {
-  const Fault faults[] = {
+  const std::pair<const char*, const char*> faults[] = {
       {"\n\nthrow new Error('two\\nlines');", "3: two lines"},
       {"\nfunction f() {\n  throw new TypeError('deep');\n}\n\nf();", "3: deep"},
       {"\nthrow 'text'", "2: text"},
@@ -198,10 +193,9 @@ TEST_F(ScriptRunnerTest, NamesTheLineOfWhatGoesWrong) {
        "q.control('Frame Rate').text = 'stop';\nq.apply();",
        "4: \"OK\" is no answer to \"Really?\""},
   };
-  for (const Fault& fault : faults)
-    EXPECT_THAT(Run(fault.script),
-                testing::AllOf(testing::StartsWith("!edit.js:"), HasSubstr(fault.error)))
-        << fault.script;
+  for (const auto& [script, error] : faults)
+    EXPECT_THAT(Run(script), testing::AllOf(testing::StartsWith("!edit.js:"), HasSubstr(error)))
+        << script;
   EXPECT_EQ(Run("try { sysdef.open('NoPage') } catch (e) { print(e.message) }"),
             "There is no page NoPage\n");
 }

@@ -12,6 +12,7 @@
 #include "automation/form.h"
 #include "automation/support/grid.h"
 #include "automation/support/test_form.h"
+#include "support/fault_of.h"
 
 namespace {
 
@@ -92,61 +93,37 @@ TEST_F(TableTest, CountsTheUnfoldedRowsOfATree) {
   EXPECT_EQ(table.Cell(2, 0), "last");
 }
 
-TEST_F(TableTest, WorksATableThroughItsOwnAccess) {
-  const test::Grid* grid = window_.grid;
+TEST_F(TableTest, ATableOfItsOwnAccessTakesTheFocus) {
   form_.GetControl("Width (mm)").Type("9");
   (void)window_.TakeEvents();
   grid_.SetCell(1, 0, "new");
   EXPECT_EQ(grid_.Cell(1, 0), "new");
-  EXPECT_EQ(window_.TakeEvents(), QStringList{"left 3.009"}) << "the table takes the focus";
-  grid_.Toggle(3, 0);
-  EXPECT_TRUE(grid_.Checked(3, 0));
+  EXPECT_EQ(window_.TakeEvents(), QStringList{"left 3.009"});
   grid_.ClickCell(0, 1);
-  EXPECT_EQ(grid->clicked, (std::pair{0, 1}));
-  grid_.Select({{0, 1}, {3, 3}});
-  EXPECT_EQ(grid_.Selected(), (Blocks{{0, 1}, {3, 3}}));
-  EXPECT_EQ(grid_.Choices(0, 0), (QStringList{"a", "b"}));
-  EXPECT_EQ(grid_.Background(0, 0), "#ffc800");
-  EXPECT_EQ(grid_.ToolTip(3, 0), "row 3");
+  EXPECT_EQ(window_.grid->clicked, (std::pair{0, 1}));
 }
 
-struct Refusal {
-  const char* what;
-  void (*act)(Table& table);
-  const char* message;
-};
-
 TEST_F(TableTest, RefusesWhatAPersonCannotDo) {
-  const Refusal refusals[] = {
-      {"row", [](Table& t) { (void)t.Cell(4, 0); }, "\"Grid\" has no row 4; it has 4 rows"},
-      {"row", [](Table& t) { (void)t.RowEnabled(-1); }, "\"Grid\" has no row -1; it has 4 rows"},
-      {"column", [](Table& t) { t.SetCell(0, 2, ""); },
-       "\"Grid\" has no column 2; it has 2 columns"},
-      {"fixed cell", [](Table& t) { t.SetCell(0, 1, "5"); },
-       "cell (0, 1) of \"Grid\" cannot be edited"},
-      {"disabled row", [](Table& t) { t.SetCell(2, 0, "5"); }, "row 2 of \"Grid\" is disabled"},
-      {"disabled row", [](Table& t) { t.ClickCell(2, 0); }, "row 2 of \"Grid\" is disabled"},
-      {"disabled row", [](Table& t) { t.Toggle(2, 0); }, "row 2 of \"Grid\" is disabled"},
-      {"block",
-       [](Table& t) {
-         t.Select({{0, 0}, {3, 4}});
+  const std::string row2 = "row 2 of \"Grid\" is disabled";
+  const std::pair<void (*)(Table&), std::string> refusals[] = {
+      {[](Table& t) { (void)t.Cell(4, 0); }, "\"Grid\" has no row 4; it has 4 rows"},
+      {[](Table& t) { (void)t.RowEnabled(-1); }, "\"Grid\" has no row -1; it has 4 rows"},
+      {[](Table& t) { t.SetCell(0, 2, ""); }, "\"Grid\" has no column 2; it has 2 columns"},
+      {[](Table& t) { t.SetCell(0, 1, "5"); }, "cell (0, 1) of \"Grid\" cannot be edited"},
+      {[](Table& t) { t.SetCell(2, 0, "5"); }, row2},
+      {[](Table& t) { t.ClickCell(2, 0); }, row2},
+      {[](Table& t) { t.Toggle(2, 0); }, row2},
+      {[](Table& t) {
+         t.Select(Blocks{{0, 0}, {3, 4}});
        },
        "\"Grid\" has no row 4; it has 4 rows"},
-      {"block",
-       [](Table& t) {
-         t.Select({{3, 1}});
+      {[](Table& t) {
+         t.Select(Blocks{{3, 1}});
        },
-       "the rows 3 to 1 of \"Grid\" are no block"},
-  };
+       "the rows 3 to 1 of \"Grid\" are no block"}};
   const test::Grid* grid = window_.grid;
-  for (const Refusal& refusal : refusals) {
-    try {
-      refusal.act(grid_);
-      ADD_FAILURE() << refusal.what << ": taken";
-    } catch (const AutomationError& error) {
-      EXPECT_STREQ(error.what(), refusal.message);
-    }
-  }
+  for (const auto& [act, message] : refusals)
+    EXPECT_EQ(test::FaultOf<AutomationError>([&, act = act] { act(grid_); }), message);
   EXPECT_EQ(grid->keys, (QStringList{"k0", "k1", "k2", "k3"}));
   EXPECT_TRUE(grid->selection.empty());
   EXPECT_THROW(parts_.Toggle(0, 0), AutomationError) << "no check box there";

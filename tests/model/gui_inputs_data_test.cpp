@@ -8,6 +8,7 @@
 
 #include "archive/archive_exception.h"
 #include "archive/support/round_trip.h"
+#include "support/fault_of.h"
 
 namespace {
 
@@ -102,12 +103,9 @@ TEST(GUIInputsData, AGamutOfThreeReplacesThreeAndOneOfEightFails) {
   for (std::size_t i = 0; i < 7; ++i) {
     EXPECT_EQ(three.ReferenceGamut[i], i < 3 ? (xyChroma{0.5, 0.25}) : defaults.ReferenceGamut[i]);
   }
-  try {
-    ReadContent<GUIInputsData>(Gamut(8));
-    FAIL();
-  } catch (const boost::archive::archive_exception& fault) {
-    EXPECT_STREQ(fault.what(), "array size too short");
-  }
+  EXPECT_EQ(test::FaultOf<boost::archive::archive_exception>(
+                [] { ReadContent<GUIInputsData>(Gamut(8)); }),
+            "array size too short");
 }
 
 TEST(GUIInputsData, CopiesTheInputsAndNothingElse) {

@@ -17,6 +17,7 @@
 #include "host/project/ost_exception.h"
 #include "host/project/ost_project.h"
 #include "host/project/run_time_db.h"
+#include "support/fault_of.h"
 #include "support/open_project.h"
 
 namespace {
@@ -119,12 +120,9 @@ TEST_F(ToolTest, PagesThatFindNoToolCannotBeMade) {
   tool_.reset();
   for (const std::string& name : Framework::GUIPageRegistry().Names()) {
     const auto* instantiator = Framework::GUIPageRegistry().Find(name);
-    try {
-      const std::unique_ptr<Framework::ToolPropertyPage> page(instantiator->CreateInstance({}));
-      ADD_FAILURE() << name;
-    } catch (const std::exception& error) {
-      EXPECT_STREQ(error.what(), "Invalid toolname");
-    }
+    EXPECT_EQ(test::FaultOf<std::exception>([&] { (void)instantiator->CreateInstance({}); }),
+              "Invalid toolname")
+        << name;
   }
 }
 

@@ -8,11 +8,7 @@
 #include <QImage>
 #include <QtTest>
 
-#include "widgets/checkedlist.h"
 #include "widgets/dynamic_data_grid.h"
-#include "widgets/formatted_edit.h"
-#include "widgets/image_button.h"
-#include "widgets/line_chart.h"
 #include "widgets/tab_sheet.h"
 
 namespace {
@@ -48,13 +44,6 @@ TEST_F(GalleryWindow, EveryTabFollowsThePalette) {
     QApplication::processEvents();
     EXPECT_LT(LightShare(gallery.grab().toImage()), 0.2) << tab;
   }
-}
-
-TEST_F(GalleryWindow, WidgetsWithoutATextHaveAnAccessibleName) {
-  QWidgetList widgets{&gallery.Grid(), &gallery.Chart(), &gallery.List()};
-  for (GUI::ImageButton* button : gallery.findChildren<GUI::ImageButton*>()) widgets << button;
-  for (const QWidget* widget : widgets) EXPECT_FALSE(widget->accessibleName().isEmpty());
-  EXPECT_GT(widgets.size(), 20);
 }
 
 TEST_F(GalleryWindow, TheColumnsFillTheGridAndTextsFit) {

@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <string>
 
@@ -15,6 +17,17 @@ using platform::xml::Document;
 using platform::xml::TextForm;
 using zel::archive::nvp;
 namespace flags = zel::archive::flags;
+
+/// An object with one member, "value".
+template <class T>
+struct Value {
+  T value{};
+  bool operator==(const Value&) const = default;
+  template <class Archive>
+  void serialize(Archive& ar, unsigned) {
+    ar& nvp("value", value);
+  }
+};
 
 /// The object as the output archive writes it, as bare text.
 template <class T>
@@ -39,6 +52,16 @@ void Read(const std::string& text, T& object, const char* name = "Inputs",
 template <class T>
 T ReadContent(const std::string& content, T object = T()) {
   Read("<Inputs>" + content + "</Inputs>", object);
+  return object;
+}
+
+/// Reads the content of an element and expects it to be written again as it stands. The content is
+/// literal, in stored order, and none of its values is a default, so that a member that is not
+/// stored shows.
+template <class T>
+T ExpectStored(const std::string& content) {
+  T object = ReadContent<T>(content);
+  EXPECT_EQ(Written(object), "<ModuleOutputs>" + content + "</ModuleOutputs>");
   return object;
 }
 

@@ -121,10 +121,8 @@ void TestForm::AddButtons(QFormLayout& layout) {
   locked->setEnabled(false);
   auto* ask = new QPushButton("Ask");
   connect(ask, &QPushButton::clicked, this, [this] { Ask(); });
-  for (QWidget* each : {static_cast<QWidget*>(enable), static_cast<QWidget*>(start),
-                        static_cast<QWidget*>(up), static_cast<QWidget*>(locked),
-                        static_cast<QWidget*>(ask), static_cast<QWidget*>(new QPushButton("Twice")),
-                        static_cast<QWidget*>(new QPushButton("Twice"))})
+  for (QWidget* each : std::initializer_list<QWidget*>{
+           enable, start, up, locked, ask, new QPushButton("Twice"), new QPushButton("Twice")})
     layout.addRow(each);
   auto* mode = new QGroupBox("Mode");
   mode->setCheckable(true);

@@ -12,17 +12,9 @@
 
 namespace {
 
+using archive_test::ExpectStored;
 using archive_test::ReadContent;
 using archive_test::Written;
-
-/// Reads the content and expects it to be written again as it stands. The content is literal, in
-/// stored order, and none of its values is a default, so that a member that is not stored shows.
-template <class T>
-T ExpectStored(const std::string& content) {
-  T object = ReadContent<T>(content);
-  EXPECT_EQ(Written(object), "<ModuleOutputs>" + content + "</ModuleOutputs>");
-  return object;
-}
 
 TEST(HostData, PixmeldControlData) {
   ExpectStored<PixmeldControlData>(
@@ -77,13 +69,8 @@ TEST(HostData, LampWaveform) {
   EXPECT_FALSE(other == waveform);
 }
 
-std::string Free(const std::string& content, int times) {
-  std::string text;
-  for (; times > 0; --times) text += content;
-  return text;
-}
-
 TEST(HostData, LampOpticsData) {
+  const auto four = [](const std::string& item) { return item + item + item + item; };
   const std::string freeLamp =
       "<item><Response><count>0</count></Response><TotalLumens>0</TotalLumens><Name/>"
       "<OpticsFlag>0</OpticsFlag><LumensVsAperture><count>0</count></LumensVsAperture>"
@@ -98,11 +85,11 @@ TEST(HostData, LampOpticsData) {
       "</item></LumensVsAperture><LampPower>300</LampPower><Recycling><count>1</count><item>"
       "<Wavelength>500</Wavelength><Value>0.25</Value></item></Recycling>"
       "<RecyclingEnabled>1</RecyclingEnabled></item>" +
-      Free(freeLamp, 4) +
+      four(freeLamp) +
       "</Lamps><CurrentLamp>0</CurrentLamp></Lamp>"
       "<Optics><Optics><count>5</count><item><Response><count>1</count><item>"
       "<Wavelength>550</Wavelength><Value>0.75</Value></item></Response><Name>Lens</Name></item>" +
-      Free(freeOptics, 4) +
+      four(freeOptics) +
       "</Optics><CurrentOptics>0</CurrentOptics><FullOnContrastRatio>2500</FullOnContrastRatio>"
       "<Model><SwSlopeFactor>0.5</SwSlopeFactor><LwSlopeFactor>0.25</LwSlopeFactor>"
       "<Sw50Intersect>420</Sw50Intersect><Lw50Intersect>680</Lw50Intersect>"
@@ -126,44 +113,26 @@ std::string Names(const LampData& data) {
   return names;
 }
 
-TEST(LampData, InsertsBetweenItsRecordsAndTheNewOneIsCurrent) {
+TEST(LampData, InsertsBetweenAndRemovesWithoutGaps) {
   LampData data;
-  for (const char* name : {"a", "b", "c"}) {
-    SLampRecord record = Lamp(name);
-    EXPECT_TRUE(data.InsertLampResponse(CountInUse(data.Lamps), record));
+  const auto insert = [&](int place, const char* name) {
+    SLampRecord record = *name ? Lamp(name) : SLampRecord();
+    return data.InsertLampResponse(place, record);
+  };
+  EXPECT_FALSE(insert(0, "")) << "nothing to insert";
+  EXPECT_FALSE(insert(1, "a")) << "a gap";
+  EXPECT_FALSE(insert(-1, "a"));
+  for (const auto& [place, name] : {std::pair{0, "a"}, {1, "b"}, {2, "c"}, {1, "x"}}) {
+    EXPECT_TRUE(insert(place, name));
+    EXPECT_EQ(data.CurrentLamp, place);
   }
-  SLampRecord between = Lamp("x");
-  EXPECT_TRUE(data.InsertLampResponse(1, between));
   EXPECT_EQ(Names(data), "a,x,b,c,.");
-  EXPECT_EQ(data.CurrentLamp, 1);
-}
-
-TEST(LampData, RefusesWhatHasNoPlace) {
-  LampData data;
-  SLampRecord empty;
-  SLampRecord first = Lamp("a");
-  EXPECT_FALSE(data.InsertLampResponse(0, empty));
-  EXPECT_FALSE(data.InsertLampResponse(1, first));
-  EXPECT_FALSE(data.InsertLampResponse(-1, first));
-  for (int i = 0; i < LampData::kCapacity; ++i) {
-    SLampRecord record = Lamp("n");
-    EXPECT_TRUE(data.InsertLampResponse(i, record));
-  }
+  EXPECT_TRUE(insert(4, "last"));
   const LampData full = data;
-  EXPECT_FALSE(data.InsertLampResponse(0, first));
+  EXPECT_FALSE(insert(0, "more"));
   EXPECT_EQ(data, full);
-  EXPECT_EQ(first.Name, "a");
-}
-
-TEST(LampData, RemovingMovesTheOthersUp) {
-  LampData data;
-  for (const char* name : {"c", "b", "a"}) {
-    SLampRecord record = Lamp(name);
-    EXPECT_TRUE(data.InsertLampResponse(0, record));
-  }
   EXPECT_TRUE(data.RemoveItem(1));
-  EXPECT_EQ(Names(data), "a,c,...");
-  EXPECT_EQ(data.CurrentLamp, 0);
+  EXPECT_EQ(Names(data), "a,b,c,last,.");
   EXPECT_FALSE(data.RemoveItem(5));
   EXPECT_FALSE(data.RemoveItem(-1));
 }

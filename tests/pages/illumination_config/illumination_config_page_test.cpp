@@ -102,6 +102,10 @@ TEST(IlluminationConfigPage, EightSlotsWithSeveralWheelsReloadWhole) {
     EXPECT_EQ(page.Text("Spoke Size"), "12.35");
     EXPECT_TRUE(page.WheelEnabled());
   }
+  page.Sources().ClickCell(0, 0);
+  EXPECT_FALSE(page.WheelEnabled());
+  QTest::keyClick(&page.Control("Illumination Sources").Widget(), Qt::Key_Down);
+  EXPECT_TRUE(page.WheelEnabled()) << "keys select sources too";
   EXPECT_FALSE(page.Control("Add source").Enabled()) << "there is no ninth slot";
   EXPECT_FALSE(page.TakeChanged());
   EXPECT_TRUE(page.Apply());
@@ -165,15 +169,6 @@ TEST(IlluminationConfigPage, AWheelMadeHereKeepsItsDigitsAndReloadsAsItWasStored
   EXPECT_EQ(page.TakeTexts(), "") << "it holds a turn, whatever the cells add up to";
   EXPECT_TRUE(page.Apply());
   EXPECT_FALSE(page.project.Session().Database().Modified());
-}
-
-TEST(IlluminationConfigPage, KeysSelectSourcesToo) {
-  SourcePage page(Full());
-  page.Sources().ClickCell(0, 0);
-  QWidget& grid = page.Control("Illumination Sources").Widget();
-  QTest::keyClick(&grid, Qt::Key_Down);
-  EXPECT_EQ(page.Segments().Rows(), 2);
-  EXPECT_TRUE(page.WheelEnabled());
 }
 
 TEST(IlluminationConfigPage, ATotalOfMoreThanATurnIsSaidAndStored) {
@@ -265,6 +260,8 @@ TEST(IlluminationConfigPage, SourcesAreAddedUpToEightAndDeleted) {
   const IlluminationConfigurationData data = page.Now();
   EXPECT_EQ(data.Sources[0].BaseColor, IllumCharacteristics::kRed);
   EXPECT_EQ(data.Sources[0].WheelNumber, 1) << "wheels are numbered anew";
+  EXPECT_EQ(data.Sources[1].IsLed, 0);
+  EXPECT_EQ(data.Sources[1].BaseColor, IllumCharacteristics::kWhite);
   EXPECT_EQ(data.Sources[2].IsLed, 1);
   EXPECT_EQ(data.Sources[3].SlotMarker, IllumCharacteristics::kFreeSlot);
   ASSERT_THAT(data.Wheels, SizeIs(1));

@@ -3,14 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QLineEdit>
-#include <QTest>
-
-#include "host/gui/page_host.h"
-#include "host/gui/tool.h"
-#include "host/gui/tool_property_page.h"
-#include "host/project/run_time_db.h"
-#include "support/open_project.h"
+#include "host/data/pixmeld_control_data.h"
+#include "support/page_form.h"
 
 namespace {
 
@@ -23,94 +17,67 @@ constexpr const char* kDatabase =
     "  </Pixmeld>\n"
     "</RunTimeDB>\n";
 
-class PixmeldPageTest : public testing::Test {
- protected:
-  QLineEdit& Box(const char* name) {
-    QWidget* window = project_.Session().Pages().Open("PixmeldPage").Window();
-    for (auto* box : window->findChildren<QLineEdit*>()) {
-      if (box->accessibleName() == QLatin1String(name)) return *box;
-    }
-    throw std::runtime_error(name);
-  }
-  void Type(const char* name, const QString& text) {
-    Box(name).selectAll();
-    QTest::keyClicks(&Box(name), text);
-  }
-  bool Apply() { return project_.Session().Pages().Apply("PixmeldPage"); }
-  bool Changed() { return project_.Session().Tool().NeedToSave(); }
-
-  test::OpenProject project_{kDatabase};
+struct PixmeldPage : test::PageForm<PixmeldControlData> {
+  PixmeldPage() : PageForm("PixmeldPage", kDatabase) {}
 };
 
-TEST_F(PixmeldPageTest, ShowsTwoDecimalsAndTakesNothingThatNobodyEdited) {
-  EXPECT_EQ(Box("Start of 1st Subframe").text(), "12.35");
-  EXPECT_EQ(Box("Actuator Switch Time").text(), "0.00");
-  EXPECT_TRUE(Apply());
-  EXPECT_FALSE(Changed());
+TEST(PixmeldPage, ShowsTwoDecimalsAndTakesNothingThatNobodyEdited) {
+  PixmeldPage page;
+  EXPECT_EQ(page.Text("Start of 1st Subframe"), "12.35");
+  EXPECT_EQ(page.Text("Actuator Switch Time"), "0.00");
+  EXPECT_TRUE(page.Apply());
   // Typing the shown text again is no edit either: the stored digits stay.
-  Type("Start of 1st Subframe", "12.35");
-  EXPECT_TRUE(Apply());
-  EXPECT_FALSE(Changed());
-}
-
-TEST_F(PixmeldPageTest, ApplyingUntouchedAddsOnlyWhatIsMissing) {
-  EXPECT_TRUE(Apply());
-  const std::string text = project_.Session().Database().Text();
+  page.Control("Start of 1st Subframe").SetText("12.35");
+  EXPECT_TRUE(page.Apply());
+  EXPECT_FALSE(page.TakeChanged());
+  const std::string text = page.Database();
   EXPECT_THAT(text,
               testing::HasSubstr("<StartOfFirstSubframe degrees=\"12.345\" note=\"measured\"/>"));
   EXPECT_THAT(text, testing::HasSubstr("<Mount screws=\"4\"/>\n    <ActuatorSwitchTime "
                                        "microseconds=\"0\"/>\n  </Pixmeld>"));
 }
 
-struct Entry {
-  const char* box;
-  const char* text;
-  const char* prompt;  ///< empty: taken
-};
-
-void PrintTo(const Entry& entry, std::ostream* out) { *out << entry.box << ": " << entry.text; }
-
-class PixmeldEntries : public PixmeldPageTest, public testing::WithParamInterface<Entry> {};
-
-TEST_P(PixmeldEntries, AreTakenWholeOrRefusedWithOneMessage) {
-  const Entry& entry = GetParam();
-  const std::string before = project_.Session().Database().Text();
-  Type("Subframe Signal Latency", "7");
-  Type(entry.box, entry.text);
-  const bool refused = *entry.prompt != 0;
-  EXPECT_EQ(Apply(), !refused);
-  EXPECT_EQ(Changed(), !refused);
-  const auto boxes = project_.TakeBoxes();
-  ASSERT_EQ(boxes.size(), refused ? 1u : 0u);
-  if (!refused) return;
-  EXPECT_EQ(boxes[0].text, entry.prompt);
-  EXPECT_EQ(boxes[0].style, 48u);
-  EXPECT_EQ(Box(entry.box).text(), entry.text);
-  EXPECT_EQ(project_.Session().Database().Text(), before);
+TEST(PixmeldPage, EntriesAreTakenWholeOrRefusedWithOneMessage) {
+  const char* const angle = "Please enter a number between 0 and 360.";
+  const char* const time = "Please enter a number between 0 and 10000.";
+  const char* const number = "Please enter a number.";
+  const struct {
+    const char* box;
+    const char* text;
+    const char* prompt;  ///< null: taken
+  } entries[] = {
+      {"Start of 1st Subframe", "360", nullptr}, {"Start of 1st Subframe", "360.01", angle},
+      {"Start of 1st Subframe", "-0.01", angle}, {"Start of 1st Subframe", "12,5", number},
+      {"Start of 1st Subframe", "nan", number},  {"Actuator Switch Time", "10000", nullptr},
+      {"Actuator Switch Time", "10000.5", time}, {"Actuator Switch Time", " ", number},
+      {"Subframe Signal Latency", "-0.5", time}};
+  for (const auto& [box, text, prompt] : entries) {
+    SCOPED_TRACE(testing::Message() << box << ": " << text);
+    PixmeldPage page;
+    const std::string before = page.Database();
+    page.Control("Subframe Signal Latency").SetText("7");
+    page.Control(box).SetText(text);
+    EXPECT_EQ(page.Apply(), !prompt);
+    EXPECT_EQ(page.TakeChanged(), !prompt);
+    const auto boxes = page.interaction.TakeMessages();
+    ASSERT_EQ(boxes.size(), prompt ? 1u : 0u);
+    if (!prompt) continue;
+    EXPECT_EQ(boxes[0].text, prompt);
+    EXPECT_EQ(boxes[0].style, 48u);
+    EXPECT_EQ(page.Text(box), text);
+    EXPECT_EQ(page.Database(), before);
+  }
 }
 
-constexpr const char* kAngle = "Please enter a number between 0 and 360.";
-constexpr const char* kTime = "Please enter a number between 0 and 10000.";
-INSTANTIATE_TEST_SUITE_P(
-    All, PixmeldEntries,
-    testing::Values(Entry{"Start of 1st Subframe", "360", ""},
-                    Entry{"Start of 1st Subframe", "360.01", kAngle},
-                    Entry{"Start of 1st Subframe", "-0.01", kAngle},
-                    Entry{"Start of 1st Subframe", "12,5", "Please enter a number."},
-                    Entry{"Start of 1st Subframe", "nan", "Please enter a number."},
-                    Entry{"Actuator Switch Time", "10000", ""},
-                    Entry{"Actuator Switch Time", "10000.5", kTime},
-                    Entry{"Actuator Switch Time", " ", "Please enter a number."},
-                    Entry{"Subframe Signal Latency", "-0.5", kTime}));
-
-TEST_F(PixmeldPageTest, ValuesAreFoundAgain) {
-  Type("Start of 1st Subframe", "12.5");
-  ASSERT_TRUE(Apply());
-  EXPECT_EQ(Box("Start of 1st Subframe").text(), "12.50");
-  EXPECT_TRUE(project_.Session().Tool().NeedToBuild());
-  ASSERT_TRUE(project_.Session().Tool().Save());
-  project_.Restart();
-  EXPECT_EQ(Box("Start of 1st Subframe").text(), "12.50");
+TEST(PixmeldPage, ValuesAreFoundAgain) {
+  PixmeldPage page;
+  page.Control("Start of 1st Subframe").SetText("12.5");
+  ASSERT_TRUE(page.Apply());
+  EXPECT_EQ(page.Text("Start of 1st Subframe"), "12.50");
+  EXPECT_TRUE(page.project.Session().Tool().NeedToBuild());
+  ASSERT_TRUE(page.project.Session().Tool().Save());
+  page.project.Restart();
+  EXPECT_EQ(page.Now().StartOfFirstSubframe, 12.5);
 }
 
 }  // namespace

@@ -8,9 +8,9 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <functional>
 
 #include "platform/file/file_error.h"
+#include "support/fault_of.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -22,14 +22,7 @@ using platform::WriteFileAtomically;
 using test::TempFolder;
 using testing::HasSubstr;
 
-std::string FaultOf(const std::function<void()>& act) {
-  try {
-    act();
-  } catch (const FileError& error) {
-    return error.what();
-  }
-  return "no error";
-}
+std::string FaultOf(auto&& act) { return test::FaultOf<FileError>(act); }
 
 std::size_t FilesIn(const fs::path& folder) {
   return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
@@ -137,15 +130,9 @@ TEST(WriteFileAtomically, LeavesTheOldFileWhateverFails) {
     EXPECT_EQ(FaultOf([&] { WriteFileAtomically(file, large); }), start + "File too large");
   }
   EXPECT_EQ(FilesIn(folder.Path()), 1u);
-  fs::permissions(folder.Path(), fs::perms(0555));
-  fs::permissions(file, fs::perms(0666));
-  {
-    const OrdinaryUser user;
-    EXPECT_EQ(FaultOf([&] { WriteFileAtomically(file, "x"); }), start + "Permission denied");
-  }
-  fs::permissions(folder.Path(), fs::perms(0777));
-  fs::permissions(file, fs::perms(0444));
-  {
+  for (const auto& [folderMode, fileMode] : {std::pair{0555, 0666}, {0777, 0444}}) {
+    fs::permissions(folder.Path(), fs::perms(folderMode));
+    fs::permissions(file, fs::perms(fileMode));
     const OrdinaryUser user;
     EXPECT_EQ(FaultOf([&] { WriteFileAtomically(file, "x"); }), start + "Permission denied");
   }

@@ -7,6 +7,7 @@
 
 #include "platform/file/file_error.h"
 #include "platform/filters/filter_error.h"
+#include "support/fault_of.h"
 #include "support/temp_folder.h"
 
 namespace {
@@ -43,12 +44,8 @@ TEST(Key, FileIsTheOwnersAndNeverReplaced) {
 TEST(Key, FilesWithoutAKeyAreNamed) {
   const test::TempFolder folder;
   const auto file = folder.Write("other", "not a key");
-  try {
-    Key::FromFile(file);
-    FAIL();
-  } catch (const FilterError& error) {
-    EXPECT_EQ(error.what(), file.string() + ": a key is 64 hexadecimal digits");
-  }
+  EXPECT_EQ(test::FaultOf<FilterError>([&] { Key::FromFile(file); }),
+            file.string() + ": a key is 64 hexadecimal digits");
   EXPECT_THROW(Key::FromFile(folder.Path() / "none"), FileError);
   EXPECT_THROW(Key::FromFile(folder.Write("long", std::string(5000, ' '))), FileError);
 }

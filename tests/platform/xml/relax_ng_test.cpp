@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/xml/xml_error.h"
+#include "support/fault_of.h"
 
 namespace {
 
@@ -20,12 +21,7 @@ std::string Grammar(const std::string& content) {
 }
 
 std::string FaultOf(const std::string& grammar) {
-  try {
-    RelaxNgSchema::Compile(Document::Parse(grammar));
-  } catch (const XmlError& error) {
-    return error.what();
-  }
-  return "taken";
+  return test::FaultOf<XmlError>([&] { RelaxNgSchema::Compile(Document::Parse(grammar)); });
 }
 
 TEST(RelaxNg, TellsEveryFaultWithItsLine) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <string>
 
@@ -113,21 +114,11 @@ TEST(SaxWriter, RefusesWhatIsNoDocument) {
       [](SaxWriter& writer) { writer.Comment("a--b"); },
       [](SaxWriter& writer) { writer.Comment("a-"); },
       [](SaxWriter& writer) { writer.TextElement("a", "\x01"); },
+      [](SaxWriter& writer) { writer.TextElement("a", ""), writer.TextElement("b", ""); },
+      [](SaxWriter& writer) { writer.TextElement("a", ""), writer.StartDtd("a"); },
+      [](SaxWriter& writer) { writer.StartElement("a", {}), writer.EndElement("b"); },
       [](SaxWriter& writer) {
-        writer.TextElement("a", "");
-        writer.TextElement("b", "");
-      },
-      [](SaxWriter& writer) {
-        writer.TextElement("a", "");
-        writer.StartDtd("a");
-      },
-      [](SaxWriter& writer) {
-        writer.StartElement("a", {});
-        writer.EndElement("b");
-      },
-      [](SaxWriter& writer) {
-        const SaxAttribute bad[] = {{"x", "\x01"}};
-        writer.StartElement("a", bad);
+        writer.StartElement("a", std::array{SaxAttribute{"x", "\x01"}});
       }};
   for (const auto& tell : wrong) EXPECT_THROW(Told(tell), XmlError);
 }

@@ -5,25 +5,17 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 #include <vector>
 
 using GUI::ChartRange;
 using GUI::ChartRangeFit;
 using GUI::IsChartRange;
 
-namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-}  // namespace
+static constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 TEST(ChartRange, ShowsAllValuesWithAMargin) {
-  struct Case {
-    bool logarithmic;
-    std::vector<double> values;
-    ChartRange range;
-  };
-  const Case cases[] = {
+  const std::tuple<bool, std::vector<double>, ChartRange> cases[] = {
       {false, {2, 12, 7}, {1, 13}},
       {true, {1, 100, 10}, {std::pow(10, -0.2), std::pow(10, 2.2)}},
       {false, {}, {0, 1}},
@@ -31,15 +23,14 @@ TEST(ChartRange, ShowsAllValuesWithAMargin) {
       {false, {4}, {2, 6}},
       {false, {0}, {-0.5, 0.5}},
       {false, {NAN, kInfinity}, {0, 1}},
-      {true, {0, -5, 10}, {10 / std::sqrt(10), 10 * std::sqrt(10)}},
-  };
-  for (const Case& c : cases) {
-    ChartRangeFit fit(c.logarithmic);
-    for (const double value : c.values) fit.Add(value);
+      {true, {0, -5, 10}, {10 / std::sqrt(10), 10 * std::sqrt(10)}}};
+  for (const auto& [logarithmic, values, expected] : cases) {
+    ChartRangeFit fit(logarithmic);
+    for (const double value : values) fit.Add(value);
     const ChartRange range = fit.Result(0.1);
-    EXPECT_DOUBLE_EQ(range.lower, c.range.lower) << c.values.size();
-    EXPECT_DOUBLE_EQ(range.upper, c.range.upper) << c.values.size();
-    EXPECT_TRUE(IsChartRange(range, c.logarithmic));
+    EXPECT_DOUBLE_EQ(range.lower, expected.lower) << values.size();
+    EXPECT_DOUBLE_EQ(range.upper, expected.upper) << values.size();
+    EXPECT_TRUE(IsChartRange(range, logarithmic));
   }
 }
 

@@ -4,17 +4,14 @@
 
 #include <gmock/gmock.h>
 
+#include <tuple>
+
 using GUI::NumberCellFormat;
 using testing::Eq;
 using testing::Optional;
 
 TEST(NumberCell, TextIsAlwaysInTheCellsFormat) {
-  struct Case {
-    std::uint16_t decimals;
-    const char* typed;
-    const char* text;
-  };
-  const Case cases[] = {
+  const std::tuple<std::uint16_t, const char*, const char*> cases[] = {
       {2, "3", "3.00"},     {0, "3.7", "3"},
       {2, "abc", "0.00"},   {0, "abc", "0"},
       {2, "", "0.00"},      {0, "", "0"},
@@ -22,8 +19,8 @@ TEST(NumberCell, TextIsAlwaysInTheCellsFormat) {
       {1, "-0.25", "-0.2"}, {2, "1,5", "1.00"},
       {0, "+7", "7"},       {2, "1.005", "1.00"},
   };
-  for (const Case& c : cases) {
-    EXPECT_EQ(NumberCellFormat{c.decimals}.TextOf(c.typed), c.text) << c.typed;
+  for (const auto& [decimals, typed, text] : cases) {
+    EXPECT_EQ(NumberCellFormat{decimals}.TextOf(typed), text) << typed;
   }
   EXPECT_EQ(NumberCellFormat{}.Format(), "%d");
   EXPECT_EQ(NumberCellFormat{2}.Format(), "%.2f");
@@ -45,16 +42,13 @@ TEST(NumberCell, BoundsRefuseWithTheirOwnFormat) {
   EXPECT_EQ(high.Refusal("-1e9"), std::nullopt);
 }
 
-TEST(NumberCell, IntegerBoundsAreCutTowardsZero) {
+TEST(NumberCell, IntegerBoundsAreCutTowardsZeroAndIntegersNot) {
   const NumberCellFormat cell{0, -0.9, 10.9, true, true};
   EXPECT_THAT(cell.Refusal("11"), Optional(Eq("Please enter a value between 0 and 10.")));
   EXPECT_EQ(cell.Refusal("10.9"), std::nullopt);
-}
-
-TEST(NumberCell, AnIntegerThatDoesNotFitIsRefusedNotCut) {
-  const NumberCellFormat cell;
-  EXPECT_NE(cell.Refusal("99999999999999999999"), std::nullopt);
-  EXPECT_NE(cell.Refusal("-99999999999999999999"), std::nullopt);
-  EXPECT_EQ(cell.Refusal("999999999999999999"), std::nullopt);
-  EXPECT_EQ(cell.TextOf("999999999999999999"), "999999999999999999");
+  const NumberCellFormat free;
+  EXPECT_NE(free.Refusal("99999999999999999999"), std::nullopt) << "what does not fit is not cut";
+  EXPECT_NE(free.Refusal("-99999999999999999999"), std::nullopt);
+  EXPECT_EQ(free.Refusal("999999999999999999"), std::nullopt);
+  EXPECT_EQ(free.TextOf("999999999999999999"), "999999999999999999");
 }

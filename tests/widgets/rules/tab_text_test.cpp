@@ -9,11 +9,7 @@ using GUI::TextRows;
 using GUI::ToTabText;
 
 TEST(TabText, ReadsWhatSpreadsheetsWrite) {
-  struct Case {
-    std::u16string_view text;
-    TextRows rows;
-  };
-  const Case cases[] = {
+  const std::pair<std::u16string_view, TextRows> cases[] = {
       {u"", {}},
       {u"a", {{u"a"}}},
       {u"a\tb\r\nc\td\r\n", {{u"a", u"b"}, {u"c", u"d"}}},
@@ -25,7 +21,7 @@ TEST(TabText, ReadsWhatSpreadsheetsWrite) {
       {u"5\" x 3\"\tb", {{u"5\" x 3\"", u"b"}}},
       {u"\"never closed\tb\n", {{u"never closed\tb\n"}}},
   };
-  for (const Case& c : cases) EXPECT_EQ(FromTabText(c.text), c.rows) << c.rows.size();
+  for (const auto& [text, rows] : cases) EXPECT_EQ(FromTabText(text), rows) << rows.size();
 }
 
 TEST(TabText, WhatIsWrittenReadsBack) {

@@ -18,35 +18,6 @@ SSegGeom Red(double size) {
   return segment;
 }
 
-TEST(AdvancedValues, RowsEndAtTheFirstSegmentWithoutASize) {
-  const SSegGeom segments[] = {Red(90), SSegGeom{.Color = 7, .Size = 9}, Red(0), Red(90)};
-  EXPECT_EQ(color_wheel::AdvancedRowCount(segments), 2u);
-  const auto gain = ValueOf(AdvancedGrid::kGains, AdvancedColumn::kSpoke, true);
-  EXPECT_EQ(color_wheel::AdvancedCell(segments[0], gain), "1.000");
-  EXPECT_EQ(color_wheel::AdvancedCell(segments[1], gain), "");
-}
-
-TEST(AdvancedValues, RefusesWhatIsNoNumberOrOutOfRange) {
-  const auto gain = ValueOf(AdvancedGrid::kGains, AdvancedColumn::kSegment, true);
-  const auto pwm = ValueOf(AdvancedGrid::kPwm, AdvancedColumn::kSpoke, false);
-  SSegGeom segment = Red(90);
-  segment.SegmentGain = 1.23456;
-
-  EXPECT_FALSE(TakeAdvancedValue("1.235", gain, segment).rewrite);
-  EXPECT_EQ(segment.SegmentGain, 1.23456);
-  EXPECT_EQ(TakeAdvancedValue("", gain, segment).rewrite, "1.235");
-  EXPECT_EQ(TakeAdvancedValue("x", gain, segment).message, std::nullopt);
-  const auto refused = TakeAdvancedValue("5.001", gain, segment);
-  EXPECT_EQ(refused.message, "This value should be in the range - 0.000 to 5.000");
-  EXPECT_EQ(refused.rewrite, "1.235");
-  EXPECT_EQ(TakeAdvancedValue("-0.1", pwm, segment).message,
-            "This value should be in the range - 0.000 to 1.000");
-  EXPECT_FALSE(TakeAdvancedValue("5", gain, segment).rewrite);
-  EXPECT_FALSE(TakeAdvancedValue("0", pwm, segment).rewrite);
-  EXPECT_EQ(segment.SegmentGain, 5);
-  EXPECT_EQ(segment.MeasuredSpokePwm, 0);
-}
-
 TEST(AdvancedValues, EditedEfficienciesAreTheMeasuredOnes) {
   const auto modeled = ValueOf(AdvancedGrid::kPwm, AdvancedColumn::kSegment, true);
   SSegGeom segment = Red(90);

@@ -32,21 +32,6 @@ TEST(FrameRateList, SelectsTheRateThatIsStored) {
   EXPECT_EQ(MakeFrameRateList(supported, 60, 59.94).selected, std::nullopt);
 }
 
-TEST(FrameRateList, WithoutSupportedRatesOffersTheDefaultAlone) {
-  const struct {
-    double rate;
-    bool offered;
-  } cases[] = {{60, true}, {89.99, true}, {90, false}, {0, false}, {-1, false}};
-  for (const auto& [rate, offered] : cases) {
-    const auto list = MakeFrameRateList({}, rate, 50);
-    EXPECT_FALSE(list.enabled);
-    EXPECT_EQ(list.entries.size(), offered ? 1u : 0u) << rate;
-    EXPECT_EQ(list.storeAtOnce.has_value(), offered) << rate;
-    EXPECT_EQ(list.selected.has_value(), offered) << rate;
-  }
-  EXPECT_THAT(MakeFrameRateList({}, 60, 50).entries, ElementsAre("60.00"));
-}
-
 TEST(FrameRateList, TheSecondRateFollowsUnlessTheWheelSpinsFourTimes) {
   ColorWheelData wheel;
   EXPECT_TRUE(color_wheel::SelectFrameRate("  50.00", {}, wheel));
