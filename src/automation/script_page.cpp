@@ -4,14 +4,24 @@
 
 #include <utility>
 
+#include "automation/automation_error.h"
 #include "automation/input.h"
 #include "host/gui/page_host.h"
 #include "host/gui/tool_property_page.h"
 
 namespace automation {
 
-Form OpenPage(Framework::PageHost& host, const std::string& name) {
+Framework::ToolPropertyPage& ActivatePage(Framework::PageHost& host, const std::string& name) {
   Framework::ToolPropertyPage& page = host.Open(name);
+  if (page.NeedUpdate()) page.InitDialog();
+  if (!page.OnSetActive()) {
+    throw AutomationError(QStringLiteral("the page %1 cannot be shown now").arg(page.Title()));
+  }
+  return page;
+}
+
+Form OpenPage(Framework::PageHost& host, const std::string& name) {
+  Framework::ToolPropertyPage& page = ActivatePage(host, name);
   QWidget& window = *page.Window();
   if (!window.isVisible()) window.show();
   Settle();

@@ -28,7 +28,12 @@ class ScriptPage : public ScriptForm {
   std::string name_;
 };
 
-/// Opens a page and shows its window when nobody else does. Throws as PageHost::Open.
+/// Opens a page as the window does when a person chooses it: it hears that it is shown, and takes
+/// what other pages have stored since. Throws as PageHost::Open, and AutomationError when the page
+/// refuses.
+Framework::ToolPropertyPage& ActivatePage(Framework::PageHost& host, const std::string& name);
+
+/// The same, and shows the page's window when nobody else does.
 Form OpenPage(Framework::PageHost& host, const std::string& name);
 
 }  // namespace automation

@@ -79,7 +79,7 @@ void ScriptSysdef::importData(const QString& name, const QString& xml) {
   context_.Guard([&] {
     const std::string page = name.toStdString();
     const auto document = platform::xml::Document::Parse(xml.toStdString());
-    Framework::PageHost::Services(host_.Open(page)).ImportData(document);
+    Framework::PageHost::Services(ActivatePage(host_, page)).ImportData(document);
     if (!host_.Apply(page))
       throw AutomationError(QStringLiteral("the page %1 did not store the data").arg(name));
     Settle();

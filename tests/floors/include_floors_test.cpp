@@ -64,7 +64,7 @@ const std::vector<Room>& Rooms() {
 const std::vector<std::pair<std::string, std::string>> kHomes = {
     {"libxml/", "platform/xml/"},    {"libxslt/", "platform/xml/"},
     {"libexslt/", "platform/xml/"},  {"zlib.h", "platform/filters/"},
-    {"sodium", "platform/filters/"}, {"qcustomplot.h", "widgets/chart_plot.cpp"},
+    {"sodium", "platform/filters/"}, {"qcustomplot.h", "widgets/chart_plot"},
 };
 
 bool IsUnder(std::string_view path, std::string_view folder) {
@@ -195,7 +195,7 @@ TEST(IncludeFloors, EveryKindOfWrongArrowIsFound) {
           "host/gui/a.h: model/a.h: not for host/gui", "model/a.h: host/project/a.h: not for model",
           "framework/a.h: widgets/a.h: not for framework",
           "widgets/a.h: automation/a.h: not for widgets",
-          "widgets/a.h: qcustomplot.h: only for widgets/chart_plot.cpp",
+          "widgets/a.h: qcustomplot.h: only for widgets/chart_plot",
           "widgets/rules/a.h: widgets/a.h: not for widgets/rules",
           "widgets/rules/a.h: QKeyEvent: no Qt in widgets/rules",
           "automation/a.h: framework/a.h: not for automation",

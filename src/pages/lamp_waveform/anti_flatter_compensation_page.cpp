@@ -51,6 +51,7 @@ void CAntiFlatterCompensationPage::SetUpGrid() {
   ui_->spokes->SetColumns(columns);
   ui_->spokes->SetCornerHeading(QStringLiteral("Index"));
   ui_->spokes->OfferRowOperations({});
+  ui_->spokes->setTabKeyNavigation(false);
   ui_->spokes->horizontalHeader()->setFixedHeight(kHeadingHeight);
 }
 

@@ -54,6 +54,9 @@
   <!-- Pairs of group type and spin factor. -->
   <xsl:template name="pairs">
     <xsl:variable name="others" select="$stored/*[not(self::Waveforms)]"/>
+    <xsl:if test="not($stored/Waveforms)">
+      <xsl:apply-templates select="$others" mode="fragment"/>
+    </xsl:if>
     <xsl:for-each select="$pairs">
       <xsl:variable name="like" select="key('pair', concat(number(SpinFactor), ' ', SeqGrpName))"/>
       <!-- Of several alike, the one in the same turn. -->
@@ -70,7 +73,9 @@
         </xsl:call-template>
       </Waveforms>
     </xsl:for-each>
-    <xsl:apply-templates select="$others[not(key('newPair', concat(number(following-sibling::Waveforms[1]/@spinFactor), ' ', following-sibling::Waveforms[1]/@groupType)))]" mode="fragment"/>
+    <xsl:if test="$stored/Waveforms">
+      <xsl:apply-templates select="$others[not(key('newPair', concat(number(following-sibling::Waveforms[1]/@spinFactor), ' ', following-sibling::Waveforms[1]/@groupType)))]" mode="fragment"/>
+    </xsl:if>
   </xsl:template>
 
   <xsl:template name="waveforms">

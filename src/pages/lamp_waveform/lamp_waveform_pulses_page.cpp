@@ -38,10 +38,7 @@ void CLampWaveFormPulsesPage::Connect() {
           &CLampWaveFormPulsesPage::FollowSelection);
   connect(ui_->view, &WaveformView::rowClicked, this,
           [this](std::size_t row) { grid_->SelectRow(row); });
-  connect(ui_->view, &WaveformView::rowActivated, this, [this](std::size_t row) {
-    grid_->SelectRow(row);
-    OpenPulse(row);
-  });
+  connect(ui_->view, &WaveformView::rowActivated, this, &CLampWaveFormPulsesPage::OpenPulse);
 }
 
 void CLampWaveFormPulsesPage::Refresh() {
@@ -66,6 +63,7 @@ void CLampWaveFormPulsesPage::OpenPulse(std::size_t row) {
   const PCGroup* const group = lamp_waveform::SelectedGroup(*data_);
   const auto pulses = lamp_waveform::ShownPulses(*data_);
   if (!group || row >= pulses.size()) return;
+  grid_->SelectRow(row);
   if (!(lamp_waveform::RateInForce(*group, data_->ApplyVIDarkPulse) > 0)) {
     ShowMessageBox(lamp_waveform::NoRateMessage(*group));
     return;

@@ -25,6 +25,9 @@ QStringList TextsOf(const PulseInfo& pulse) {
 PulseGrid::PulseGrid(GUI::CDynamicDataGrid& grid) : grid_(grid) {
   grid_.OfferRowOperations({});
   grid_.SetRowHeadingsVisible(false);
+  // Nothing is typed here: Tab leaves, and a row is one thing, as it is in the picture.
+  grid_.setTabKeyNavigation(false);
+  grid_.setSelectionBehavior(QAbstractItemView::SelectRows);
   // Rows that are fitted to the table's height are never lower than others.
   QHeaderView& rows = *grid_.verticalHeader();
   rows.setMinimumSectionSize(rows.defaultSectionSize());

@@ -129,6 +129,8 @@ void SysDefLampWaveformPage::ConnectControls() {
                    [this] { StoreAndRefresh(); });
   QObject::connect(ui_->uart, &QCheckBox::clicked, window, [this] { StoreAndRefresh(); });
   GUI::WhenLeftForAnother(*ui_->waveformIndex, [this] { StoreAndRefresh(); });
+  QObject::connect(ui_->waveformIndex, &QLineEdit::returnPressed, window,
+                   [this] { StoreAndRefresh(); });
   const auto onClick = [window](const GUI::ImageButton* button, auto run) {
     QObject::connect(button, &QAbstractButton::clicked, window, run);
   };
@@ -139,7 +141,9 @@ void SysDefLampWaveformPage::ConnectControls() {
 }
 
 void SysDefLampWaveformPage::TakeForeign(const GUIInputsData& foreign) {
-  if (!data_ || foreign.ColorWheel == data_->ColorWheel) return;
+  if (!data_ || (storedWheel_ && *storedWheel_ == foreign.ColorWheel)) return;
+  storedWheel_ = std::make_unique<ColorWheelData>(foreign.ColorWheel);
+  if (foreign.ColorWheel == data_->ColorWheel) return;
   data_->ColorWheel = foreign.ColorWheel;
   Refresh();
 }

@@ -12,6 +12,7 @@
 #include "host/project/finding.h"
 #include "pages/lamp_waveform/clwd_page_property_sheet.h"
 
+class ColorWheelData;
 class GUIInputsData;
 class OstProject;
 class PCGroup;
@@ -33,8 +34,8 @@ class SysDefLampWaveformPage : public Framework::ToolPropertyPage {
 
   /// The object to edit, also for the sub-pages; it stays the wrapper's.
   void SetData(GUIInputsData* data);
-  /// The color wheel is edited on its own page. One that changed there is taken and the pulses
-  /// follow it.
+  /// The color wheel is edited on its own page. One that changed there since it was last looked at
+  /// is taken, and the pulses follow it; a wheel that was imported here stays until then.
   [[nodiscard]] static std::vector<std::string> ForeignFragments() { return {"ColorWheel"}; }
   void TakeForeign(const GUIInputsData& foreign);
   /// Save stores the ballast settings; all else is in the data at once.
@@ -75,6 +76,7 @@ class SysDefLampWaveformPage : public Framework::ToolPropertyPage {
   void DeleteWaveform();
 
   GUIInputsData* data_ = nullptr;
+  std::unique_ptr<ColorWheelData> storedWheel_;  ///< the database's, when it was last looked at
   std::unique_ptr<Ui::SysDefLampWaveformPage> ui_;
   QPointer<QWidget> controls_;
   QPointer<CLWDPagePropertySheet> sheet_;

@@ -33,7 +33,7 @@ class WaveformView : public QWidget {
   [[nodiscard]] const TimeWindow& Window() const noexcept { return window_; }
 
   [[nodiscard]] QSize sizeHint() const override { return {760, 240}; }
-  [[nodiscard]] QSize minimumSizeHint() const override { return {360, 150}; }
+  [[nodiscard]] QSize minimumSizeHint() const override { return {360, 180}; }
 
  signals:
   void rowClicked(std::size_t row);

@@ -5,15 +5,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QTest>
 
 #include "automation/script_page.h"
 #include "host/gui/message_box.h"
+#include "host/gui/page_host.h"
+#include "host/gui/page_services.h"
 #include "host/project/ost_command_line_info.h"
 #include "pages/lamp_waveform/rules/selection.h"
 #include "pages/lamp_waveform/rules/waveform_inputs.h"
 #include "pages/lamp_waveform/waveform_view.h"
+#include "platform/xml/document.h"
 #include "support/page_form.h"
 
 namespace {
@@ -222,8 +226,9 @@ TEST(LampWaveformPage, StoresTheBallastSettings) {
   for (const char* refused : {"256", "-1", "1.5", "x"}) {
     page.Control(kIndex).SetText(refused);
     EXPECT_THAT(page.TakeTexts(), ElementsAre(HasSubstr("Please enter an integer"))) << refused;
-    EXPECT_TRUE(page.Control(kIndex).Widget().hasFocus()) << refused;
-    EXPECT_EQ(page.Text(kIndex), refused);
+    auto& field = dynamic_cast<QLineEdit&>(page.Control(kIndex).Widget());
+    EXPECT_TRUE(field.hasFocus()) << refused;
+    EXPECT_EQ(field.selectedText(), refused) << "the next key replaces it";
     EXPECT_FALSE(page.Apply()) << refused;
     (void)page.TakeTexts();
     EXPECT_FALSE(page.TakeChanged()) << refused;
@@ -370,13 +375,21 @@ TEST(LampWaveformPage, FollowsTheWheelThatItsOwnPageApplied) {
   page.Control(kIndex).SetText("77");
   auto wheel = automation::OpenPage(pages, "ColorWheelPage");
   wheel.GetTable("Segment Geometry").SetCell(1, 0, "White");
-  pages.Open("SysDefLampWaveformPage").OnSetActive();
+  auto& wrapper = automation::ActivatePage(pages, "SysDefLampWaveformPage");
   EXPECT_EQ(page.Pulses().Cell(1, 0), "G00") << "not applied yet";
   ASSERT_TRUE(pages.Apply("ColorWheelPage"));
-  pages.Open("SysDefLampWaveformPage").OnSetActive();
+  (void)automation::ActivatePage(pages, "SysDefLampWaveformPage");
   EXPECT_EQ(page.Pulses().Cell(0, 1), "Yes");
   EXPECT_EQ(page.Pulses().Cell(1, 0), "W00");
   EXPECT_EQ(page.Text(kIndex), "77") << "what was edited here stays";
+
+  auto& services = Framework::PageHost::Services(wrapper);
+  std::string data = services.ExportData().ToText(platform::xml::TextForm::kBare);
+  const std::string red = "<Color>0</Color>";
+  data.replace(data.find(red), red.size(), "<Color>6</Color>");
+  services.ImportData(platform::xml::Document::Parse(data));
+  (void)automation::ActivatePage(pages, "SysDefLampWaveformPage");
+  EXPECT_EQ(page.Pulses().Cell(0, 0), "Y00") << "what was imported here stays";
 }
 
 TEST(LampWaveformPage, AWheelWithoutSegmentsShowsTheMessageOfTheEmptyTable) {
@@ -393,6 +406,7 @@ TEST(LampWaveformPage, AWheelWithoutSegmentsShowsTheMessageOfTheEmptyTable) {
 TEST(LampWaveformPulses, AreAddedChangedAndDeleted) {
   WaveformPage page;
   page.LeavePulse(1, {"140.5", "30", "200", "40"}, "Cancel");
+  EXPECT_THAT(page.Pulses().Selected(), ElementsAre(std::pair(1, 1))) << "also in the picture";
   page.LeavePulse(1, {"100", "30", "200", "40"});
   EXPECT_THAT(page.TakeTexts(), ElementsAre(HasSubstr("No pulse added")));
   EXPECT_FALSE(page.TakeChanged());

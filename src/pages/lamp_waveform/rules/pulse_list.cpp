@@ -31,12 +31,15 @@ std::string WheelSignature(const ColorWheelData& wheel) {
 }
 
 SeqTimeline WheelTimeline(const ColorWheelData& wheel, const PCGroup* group, double spin) {
-  SeqTimeline none(0.0, 0.0);
-  if (group == nullptr || group->Rates.empty()) return none;
-  const double rate = group->Rates.front();
-  return SequenceTiming_Common::GetSeqTimeline(CWSegsOf(wheel.Segments), spin, rate,
-                                               wheel.SpokeSize, 0, 0.0, rate, false,
-                                               group->Title == k3dGroup, 0, none, group->Title);
+  if (group == nullptr || group->Rates.empty()) return SeqTimeline(0.0, 0.0);
+  return WheelTimelineAt(group->Rates.front(), wheel, *group, spin);
+}
+
+SeqTimeline WheelTimelineAt(double rateHz, const ColorWheelData& wheel, const PCGroup& group,
+                            double spin) {
+  return SequenceTiming_Common::GetSeqTimeline(
+      CWSegsOf(wheel.Segments), spin, rateHz, wheel.SpokeSize, 0, 0.0, rateHz, false,
+      group.Title == k3dGroup, 0, SeqTimeline(0.0, 0.0), group.Title);
 }
 
 SeqTimeline SelectedTimeline(const GUIInputsData& data) {

@@ -21,6 +21,10 @@ inline constexpr const char* k3dGroup = "3D";
 /// The wheel's timeline at a spin factor and the group's first rate. Empty without a group or rate.
 [[nodiscard]] SequenceTiming::SeqTimeline WheelTimeline(const ColorWheelData& wheel,
                                                         const PCGroup* group, double spin);
+/// The same segments, timed at a rate of the caller's choice.
+[[nodiscard]] SequenceTiming::SeqTimeline WheelTimelineAt(double rateHz,
+                                                          const ColorWheelData& wheel,
+                                                          const PCGroup& group, double spin);
 /// The timeline of the data's selection.
 [[nodiscard]] SequenceTiming::SeqTimeline SelectedTimeline(const GUIInputsData& data);
 /// A wheel that cannot be timed at all, as opposed to one without segments, tells nothing of pulses

@@ -79,18 +79,26 @@ void FitRanges(const SeqTimeline& timeline, WaveformPicture& picture) {
   picture.highGain = (std::floor(high / kGainStep) + 1) * kGainStep;
 }
 
+/// Pulses have their microseconds at the reference rate, which need not be the first that times
+/// the segments.
+SeqTimeline TimelineToDraw(const GUIInputsData& data, const PCGroup* group, double rate) {
+  SeqTimeline timeline = SelectedTimeline(data);
+  if (group == nullptr || !(rate > 0) || !IsTimed(timeline)) return timeline;
+  return WheelTimelineAt(rate, data.ColorWheel, *group, data.CurrentSpinFactor);
+}
+
 }  // namespace
 
 WaveformPicture MakePicture(const GUIInputsData& data) {
   WaveformPicture picture;
   const PCGroup* const group = SelectedGroup(data);
-  const SeqTimeline timeline = SelectedTimeline(data);
+  const double rate = group ? ReferenceRate(*group) : 0.0;
+  const SeqTimeline timeline = TimelineToDraw(data, group, rate);
   if (group == nullptr || timeline.Segments().empty() || !std::isfinite(timeline.EndUs())) {
     picture.note = "The color wheel has no sequence to draw.";
     return picture;
   }
   const std::span<const PulseInfo> pulses = ShownPulses(data);
-  const double rate = ReferenceRate(*group);
   if (!(rate > 0)) picture.note = NoRateMessage(*group);
   Rows rows = RowsByKey(pulses);
   for (const SeqSegment& segment : timeline.Segments()) {

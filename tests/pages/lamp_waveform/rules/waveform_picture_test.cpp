@@ -58,7 +58,10 @@ TEST(WaveformPicture, PutsPulsesAndWheelOnOneTimeAxis) {
   EXPECT_EQ(lamp_waveform::MakePicture(data).pulses.size(), 1u) << "the others have no place";
   EXPECT_EQ(lamp_waveform::MakePicture(data).highGain, 2.5);
 
-  data.PCGroups[0].BitwSelectRateFlags = {false};
+  data.PCGroups[0].Rates = {120, 60};
+  data.PCGroups[0].BitwSelectRateFlags = {false, true};
+  EXPECT_EQ(lamp_waveform::MakePicture(data).strip[2].endUs, green) << "at the pulses' rate";
+  data.PCGroups[0].BitwSelectRateFlags = {false, false};
   EXPECT_EQ(lamp_waveform::MakePicture(data).note, "The group type '2D' has no rate selected.");
   data.PCGroups.clear();
   EXPECT_TRUE(lamp_waveform::MakePicture(data).IsEmpty());
