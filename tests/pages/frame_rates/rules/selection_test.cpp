@@ -24,9 +24,13 @@ TEST(SequenceRanges, AreReadUpToTheFirstWithoutABaseRate) {
   EXPECT_EQ(ItemText(ranges[1]), "60.00 Hz (47.50 - 63.00 Hz)");
   EXPECT_FALSE(ranges[1].enable3d);
 
-  SetRange(project, 3, "96", "90", "120", "1");
+  project.SetKey("projectclass.seqrange.group1.seq3.basehz", "96");
   ranges = ReadSequenceRanges(project);
   ASSERT_EQ(ranges.size(), 4U);
+  EXPECT_EQ(ItemText(ranges[2]), "96.00 Hz (0.00 - 0.00 Hz)") << "absent keys are nothing";
+  EXPECT_EQ(ranges[2].maxMultiplier, 0);
+  SetRange(project, 3, "96", "90", "120", "1");
+  ranges = ReadSequenceRanges(project);
   EXPECT_TRUE(ranges[2].enable3d) << "the ends belong to the range";
   project.SetKey("projectclass.seqrange.maxseq", "1");
   EXPECT_EQ(ReadSequenceRanges(project).size(), 1U);

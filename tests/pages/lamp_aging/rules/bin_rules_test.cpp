@@ -93,6 +93,12 @@ TEST(BinRules, TheFirstFailureIsTold) {
   EXPECT_EQ(starts({39, 50, 9.0}, DefaultFeedbackTable()), "Error, max# of allowed entries = 1");
 }
 
+TEST(BinRules, NothingIsDeletedBehindTheLastBin) {
+  BinTable table = kTable;
+  EXPECT_FALSE(DeleteBin(table, 3));
+  EXPECT_EQ(table, kTable);
+}
+
 TEST(ProposeBin, StartsAtTheSelectedOrTheLastRow) {
   Limits limits;
   EXPECT_EQ(ProposeBin({}, {}, limits), Bin(0, 0, 2.0));
