@@ -21,24 +21,22 @@ using testing::StartsWith;
 
 constexpr const char* kPage = "FrameRatesPage";
 
-struct Range {
-  const char *base, *min, *max, *multipliers;
-};
+/// Base, lowest and highest rate, and the most multipliers, as a project writes them.
+using Range = std::array<const char*, 4>;
 
 std::string Keys(const std::vector<Range>& ranges) {
+  const char* const names[] = {"basehz", "minhz", "maxhz", "maxseqmultiplier"};
   std::string keys;
-  int number = 0;
-  for (const Range& range : ranges) {
-    const std::string head =
-        "<Key name=\"projectclass.seqrange.group1.seq" + std::to_string(++number) + ".";
-    keys += head + "basehz\">" + range.base + "</Key>" + head + "minhz\">" + range.min + "</Key>" +
-            head + "maxhz\">" + range.max + "</Key>" + head + "maxseqmultiplier\">" +
-            range.multipliers + "</Key>";
+  for (std::size_t i = 0; i < ranges.size(); ++i) {
+    for (std::size_t part = 0; part < 4; ++part) {
+      keys += "<Key name=\"projectclass.seqrange.group1.seq" + std::to_string(i + 1) + "." +
+              names[part] + "\">" + ranges[i][part] + "</Key>";
+    }
   }
   return keys;
 }
 
-const std::vector<Range> kExample{{"60.0", "47.5", "63", "2"}};
+const std::vector<Range> kExample{Range{"60.0", "47.5", "63", "2"}};
 const std::vector<Range> kFour{{"50.00", "47.5", "56.5", "4"},
                                {"60.00", "57", "63", "4"},
                                {"72.00", "69", "76", "3"},
