@@ -2,7 +2,6 @@
 // SPDX-FileCopyrightText: The System Definition developers
 #include "app/commands/pack_command.h"
 
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
@@ -11,6 +10,7 @@
 #include "app/command_line.h"
 #include "app/exit_status.h"
 #include "app/wrong_use.h"
+#include "platform/file/file.h"
 #include "platform/file/file_error.h"
 #include "platform/file/replacement.h"
 #include "platform/filters/container.h"
@@ -24,9 +24,7 @@ namespace filters = platform::filters;
 using platform::FileError;
 
 std::ifstream Open(const std::string& path) {
-  std::ifstream file;
-  std::error_code ignored;
-  if (std::filesystem::is_regular_file(path, ignored)) file.open(path, std::ios::binary);
+  std::ifstream file = platform::OpenFile(path);
   if (!file.is_open()) throw FileError("Cannot read " + path);
   return file;
 }

@@ -9,6 +9,7 @@
 
 #include "host/project/ost_exception.h"
 #include "host/project/support_files.h"
+#include "platform/file/file.h"
 #include "platform/file/file_error.h"
 #include "platform/filters/container.h"
 #include "platform/filters/filter_error.h"
@@ -29,10 +30,7 @@ constexpr std::size_t kStylesheetLimit = 64u << 20;
 using platform::xml::Document;
 
 std::ifstream Open(const std::string& path) {
-  std::ifstream file;
-  std::error_code ignored;
-  // A pipe would wait for its writer, a folder opens and cannot be read.
-  if (std::filesystem::is_regular_file(path, ignored)) file.open(path, std::ios::binary);
+  std::ifstream file = platform::OpenFile(path);
   if (!file.is_open()) throw OstException("Cannot open archive for input: " + path);
   return file;
 }

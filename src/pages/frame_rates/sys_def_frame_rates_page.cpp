@@ -71,13 +71,11 @@ SysDefFrameRatesPage::SysDefFrameRatesPage()
   SetTitle(QStringLiteral("Frame Rates"));
 }
 
-// The table is left by the pointer when it goes, and calls back then.
-SysDefFrameRatesPage::~SysDefFrameRatesPage() { delete controls_; }
+SysDefFrameRatesPage::~SysDefFrameRatesPage() = default;
 
 void SysDefFrameRatesPage::CreateControls(QWidget* window) {
   Ui::SysDefFrameRatesPage ui;
   ui.setupUi(window);
-  controls_ = window;
   list_ = ui.ranges;
   grid_ = ui.rates;
   coverage_ = ui.coverage;

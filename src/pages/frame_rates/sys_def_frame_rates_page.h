@@ -71,7 +71,6 @@ class SysDefFrameRatesPage : public Framework::ToolPropertyPage {
   std::vector<frame_rates::DisplayRow> rows_;  ///< one a row of the grid
   int pinnedRow_ = -1;  ///< the row that is selected while no bar is pointed at
 
-  QPointer<QWidget> controls_;
   checkedlist* list_ = nullptr;
   GUI::CDynamicDataGrid* grid_ = nullptr;
   frame_rates::CoverageView* coverage_ = nullptr;

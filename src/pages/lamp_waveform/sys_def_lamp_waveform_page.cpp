@@ -71,11 +71,7 @@ SysDefLampWaveformPage::SysDefLampWaveformPage() : ToolPropertyPage(kToolName, k
   SetTitle(QStringLiteral("Lamp Waveform Definition"));
 }
 
-// The data may be gone already, and a field that has the focus is left when it goes.
-SysDefLampWaveformPage::~SysDefLampWaveformPage() {
-  SetData(nullptr);
-  delete controls_;
-}
+SysDefLampWaveformPage::~SysDefLampWaveformPage() = default;
 
 void SysDefLampWaveformPage::SetData(GUIInputsData* data) {
   data_ = data;
@@ -85,7 +81,6 @@ void SysDefLampWaveformPage::SetData(GUIInputsData* data) {
 void SysDefLampWaveformPage::CreateControls(QWidget* window) {
   ui_ = std::make_unique<Ui::SysDefLampWaveformPage>();
   ui_->setupUi(window);
-  controls_ = ui_->controls;
   for (const auto& maker : lamp_waveform::BallastMakers()) {
     ui_->maker->addItem(QString::fromLatin1(maker.text));
   }
@@ -113,13 +108,13 @@ void SysDefLampWaveformPage::SetUpButtons() {
   ui_->deleteWaveform->SetImage(GUI::Image::kDelete, QStringLiteral("Delete"));
   ui_->importAttributes->SetImage(GUI::Image::kImport, QStringLiteral("Import Attributes ..."));
   ui_->exportAttributes->SetImage(GUI::Image::kExport, QStringLiteral("Export Attributes ..."));
-  for (auto* button : controls_->findChildren<GUI::ImageButton*>()) {
+  for (auto* button : ui_->controls->findChildren<GUI::ImageButton*>()) {
     Framework::SetSlowToolTip(*button, button->toolTip());
   }
 }
 
 void SysDefLampWaveformPage::ConnectControls() {
-  QWidget* const window = controls_;
+  QWidget* const window = ui_->controls;
   for (QComboBox* list : {ui_->groupType, ui_->spinFactor, ui_->waveform}) {
     GUI::TurnOnlyWithFocus(*list);
     QObject::connect(list, &QComboBox::currentIndexChanged, window, [this] { Refresh(); });

@@ -78,7 +78,6 @@ class SysDefLampWaveformPage : public Framework::ToolPropertyPage {
   GUIInputsData* data_ = nullptr;
   std::unique_ptr<ColorWheelData> storedWheel_;  ///< the database's, when it was last looked at
   std::unique_ptr<Ui::SysDefLampWaveformPage> ui_;
-  QPointer<QWidget> controls_;
   QPointer<CLWDPagePropertySheet> sheet_;
   CAntiFlatterCompensationPage* compensation_ = nullptr;
 };

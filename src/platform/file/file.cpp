@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <fstream>
+
 #include "platform/file/descriptor.h"
 #include "platform/file/replacement.h"
 
@@ -53,6 +55,14 @@ std::optional<std::string> ReadFile(const fs::path& path, std::size_t limit) {
   const auto size = static_cast<std::size_t>(status.st_size);
   if (size > limit) Fail("read", path, "it is longer than " + std::to_string(limit) + " bytes");
   return ReadToEnd(file, size, limit, path);
+}
+
+std::ifstream OpenFile(const fs::path& path) {
+  std::ifstream file;
+  std::error_code ignored;
+  // A pipe would wait for its writer, a folder opens and cannot be read.
+  if (fs::is_regular_file(path, ignored)) file.open(path, std::ios::binary);
+  return file;
 }
 
 void WriteFileAtomically(const fs::path& path, std::string_view bytes) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <iosfwd>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,9 @@ namespace platform {
 /// is not a regular file, is longer than the limit, or cannot be read.
 [[nodiscard]] std::optional<std::string> ReadFile(const std::filesystem::path& path,
                                                   std::size_t limit = 256u << 20);
+
+/// A stream over the bytes of a regular file; not open where there is none or it cannot be read.
+[[nodiscard]] std::ifstream OpenFile(const std::filesystem::path& path);
 
 /// Replaces the file's content as one step: a reader, and a reader after a crash, sees the old or
 /// the new bytes whole. On return the bytes and the folder's entry are on the disk. A symbolic
